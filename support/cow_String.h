@@ -56,6 +56,7 @@ public:
     cow_String& append(char const* text, int length);
     cow_String& append(std::string_view text) { return append(text.data(), static_cast<int>(text.size())); }
     cow_String& append(cow_String const& text) { return append(text.m_chars, text.Length()); }
+    cow_String& append(char const* text) { return append(std::string_view(text)); }
     cow_String& append(char c) { return append(&c, 1); }
     cow_String& operator+=(cow_String const& text) { return append(text); }
     cow_String& operator+=(char const* text) { return append(std::string_view(text)); }

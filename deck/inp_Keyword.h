@@ -1,0 +1,102 @@
+#pragma once
+// The record of one keyword of a deck: what it is, its parameters, its data
+// lines, its suboptions and where it came from.
+//
+// Copying a record is cheap: parameters, comments and suboptions share their
+// storage copy-on-write, and a copy shares the very same data array, so a Set
+// or Append on one copy's data shows in the other. DeepCopy makes the data
+// independent.
+
+#include "deck/inp_DataArray.h"
+#include "deck/inp_Item.h"
+#include "deck/inp_keywords.h"
+#include "support/cow_List.h"
+#include "support/cow_Map.h"
+#include "support/cow_String.h"
+
+class aio_ostream;
+class eli_eostream;
+class inp_Visitor;
+
+class inp_Keyword {
+public:
+    inp_Keyword() = default;
+    // The enumerator is resolved through the keyword table; 0 if unknown.
+    explicit inp_Keyword(cow_String const& name);
+    explicit inp_Keyword(inp_KeywordEnm keyword) : m_keyword(keyword) {}
+    inp_Keyword(inp_KeywordEnm keyword, cow_String const& fileName) : m_keyword(keyword), m_fileName(fileName) {}
+
+    inp_KeywordEnm Keyword() const { return m_keyword; }
+    // Setting 0 blanks the record: later stages pass it over and drop it.
+    void SetKeyword(inp_KeywordEnm keyword) { m_keyword = keyword; }
+    bool Is(inp_KeywordEnm keyword) const { return m_keyword == keyword; }
+    // The table's folded name.
+    cow_String Name() const;
+
+    int Level() const { return m_level; }
+    void SetLevel(int level) { m_level = level; }
+
+    // Parameters, keyed by their folded names.
+    cow_Map<cow_String, inp_Item> const& Parameters() const { return m_parameters; }
+    cow_Map<cow_String, inp_Item>& GetParameters() { return m_parameters; }
+    void SetParameters(cow_Map<cow_String, inp_Item> const& parameters) { m_parameters = parameters; }
+    void SetParameter(cow_String const& name, inp_Item const& value) { m_parameters.Insert(name, value); }
+    bool RemoveParameter(cow_String const& name) { return m_parameters.Remove(name); }
+    bool HasParameter(cow_String const& name) const { return m_parameters.IsMember(name); }
+    // `fallback` unless the parameter exists with an integer item.
+    int GetParameterAsInt(cow_String const& name, int fallback) const;
+    // `fallback` unless the parameter exists with a double or integer item.
+    double GetParameterAsDouble(cow_String const& name, double fallback) const;
+    // `fallback` unless the parameter exists with a string item.
+    cow_String GetParameterAsString(cow_String const& name, cow_String fallback) const;
+
+    inp_DataArray const& Data() const { return m_data; }
+    inp_DataArray& Data() { return m_data; }
+    void SetData(inp_DataArray const& data) { m_data = data; }
+
+    cow_List<inp_Keyword> const& Suboptions() const { return m_suboptions; }
+    cow_List<inp_Keyword>& GetSuboptions() { return m_suboptions; }
+    void SetSuboptions(cow_List<inp_Keyword> const& suboptions) { m_suboptions = suboptions; }
+    // Whether a direct child has that enumerator; no recursion.
+    bool hasSuboption(inp_KeywordEnm keyword) const;
+
+    cow_String const& FileName() const { return m_fileName; }
+    void SetFileName(cow_String const& fileName) { m_fileName = fileName; }
+    int LineNumber() const { return m_lineNumber; }
+    void SetLineNumber(int line) { m_lineNumber = line; }
+    bool IsEncrypted() const { return m_encrypted; }
+    void SetEncrypted(bool encrypted) { m_encrypted = encrypted; }
+    cow_List<cow_String> const& Comments() const { return m_comments; }
+    void SetComments(cow_List<cow_String> const& comments) { m_comments = comments; }
+    void AddComment(cow_String const& comment) { m_comments.Append(comment); }
+    bool FromScripting() const { return m_fromScripting; }
+    void SetFromScripting(bool fromScripting) { m_fromScripting = fromScripting; }
+
+    // A record with the same enumerator, file name, line, encrypted flag, mark
+    // and parameters, a deep copy of the data and of each suboption. Comments
+    // and the scripting flag are not carried over.
+    inp_Keyword DeepCopy() const;
+
+    // Writes the keyword back as deck text, wrapping parameter lines before
+    // they reach 132 characters.
+    void Print(eli_eostream& out, bool withSuboptions) const;
+    void Print(aio_ostream& out, bool withSuboptions) const;
+    // The form used for debug output and the flat entry.
+    cow_String Print(bool withSuboptions) const;
+
+private:
+    void printDataRows(eli_eostream& out) const;
+    void printDebug(cow_String& out, bool withSuboptions) const;
+    bool quotesItemsWithBlanks() const;
+
+    inp_KeywordEnm m_keyword = inp_kw_UndefinedKeyword;
+    int m_level = 0;  // a mark that stages may set; copied by every copy
+    cow_Map<cow_String, inp_Item> m_parameters;
+    inp_DataArray m_data;
+    cow_List<inp_Keyword> m_suboptions;
+    cow_String m_fileName;
+    int m_lineNumber = 0;
+    bool m_encrypted = false;
+    cow_List<cow_String> m_comments;
+    bool m_fromScripting = false;
+};

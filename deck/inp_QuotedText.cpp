@@ -1,0 +1,49 @@
+#include "deck/inp_QuotedText.h"
+
+#include <cstring>
+#include <memory>
+
+namespace {
+
+// The callers hand one item of one deck line (at most 256 characters), so a
+// stack buffer covers the normal case; longer text, which only a defective
+// caller can pass, goes to the heap instead of overrunning the buffer.
+constexpr size_t kStackBuffer = 272;
+
+template <bool upper>
+cow_String foldOutsideQuotes(char const* text) {
+    if (!text) return cow_String();
+    size_t length = 0;
+    while (text[length] && text[length] != '\n') ++length;
+    bool endsAtNewline = text[length] == '\n';
+
+    char stackBuffer[kStackBuffer];
+    std::unique_ptr<char[]> heapBuffer;
+    char* out = stackBuffer;
+    if (length + 1 > kStackBuffer) {
+        heapBuffer = std::make_unique<char[]>(length + 1);
+        out = heapBuffer.get();
+    }
+
+    size_t used = 0;
+    bool quoted = false;
+    for (size_t i = 0; i < length; ++i) {
+        char c = text[i];
+        if (c == '"') {
+            quoted = !quoted;
+        } else if (!quoted) {
+            if (c == ' ' || c == '\t' || c == '\r') continue;
+            if (upper && c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+        }
+        out[used++] = c;
+    }
+    if (endsAtNewline) out[used++] = '\n';
+    if (used == 0) return cow_String();
+    return cow_String(out, static_cast<int>(used));
+}
+
+}  // namespace
+
+cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(char const* text) { return foldOutsideQuotes<true>(text); }
+
+cow_String inp_TakeOutSpacesOutsideQuoted(char const* text) { return foldOutsideQuotes<false>(text); }
