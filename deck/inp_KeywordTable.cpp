@@ -1,0 +1,128 @@
+#include "deck/inp_KeywordTable.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "deck/inp_Exceptions.h"
+#include "deck/inp_KeywordTableData.h"
+
+inp_KeywordTable::inp_KeywordTable() {
+    for (inp_KeywordTableRow const* row = inp_keywordTableRows; row->name; ++row) {
+        cow_List<int> suboptions;
+        if (row->suboptions)
+            for (inp_KeywordEnm const* sub = row->suboptions; *sub != inp_kw_UndefinedKeyword; ++sub)
+                suboptions.Append(*sub);
+        m_suboptionMap.Insert(row->keyword, suboptions);
+        m_enumMap.Insert(cow_String(row->name), row->keyword);
+        m_nameMap.Insert(row->keyword, cow_String(row->name));
+    }
+    thr_ThrSingletonRegistry::SetDestructLevel(&thr_ThreadSingleton<inp_KeywordTable>::Finalize, 9);
+}
+
+cow_String inp_KeywordTable::FullName(cow_String const& name) const {
+    if (m_enumMap.IsMember(name)) return name;
+    int matches = 0;
+    cow_String last;
+    for (cow_ConstMapIterator<cow_String, inp_KeywordEnm> it(m_enumMap); it.NotDone(); it.Next()) {
+        if (it.CurrentKey().StartsWith(name.View())) {
+            ++matches;
+            last = it.CurrentKey();
+        }
+    }
+    if (matches == 0) throw inp_UnknownKeywordException(0, cow_String(), name);
+    if (matches > 1) throw inp_AmbiguousKeywordException(0, cow_String(), name);
+    return last;
+}
+
+inp_KeywordEnm inp_KeywordTable::Enum(cow_String const& name) const {
+    if (inp_KeywordEnm const* exact = m_enumMap.Find(name)) return *exact;
+    try {
+        return m_enumMap.ConstGet(FullName(name));
+    } catch (inp_UnknownKeywordException const&) {
+        return inp_kw_UndefinedKeyword;
+    } catch (inp_AmbiguousKeywordException const&) {
+        return inp_kw_UndefinedKeyword;
+    }
+}
+
+cow_String inp_KeywordTable::Name(inp_KeywordEnm keyword) const { return m_nameMap.ConstGet(keyword); }
+
+cow_List<int> const& inp_KeywordTable::Suboptions(int const& keyword) const {
+    return m_suboptionMap.ConstGet(keyword);
+}
+
+void inp_KeywordTable::appendBelow(int keyword, cow_List<int>& result) const {
+    for (int sub : Suboptions(keyword)) {
+        result.Append(sub);
+        appendBelow(sub, result);
+    }
+}
+
+cow_List<int> inp_KeywordTable::AllKeywordsBelow(int const& keyword) const {
+    cow_List<int> result;
+    appendBelow(keyword, result);
+    return result;
+}
+
+cow_List<int> inp_KeywordTable::AllKeywordsBelow(cow_List<int> const& keywords) const {
+    cow_List<int> result;
+    for (int keyword : keywords) {
+        result.Append(keyword);
+        appendBelow(keyword, result);
+    }
+    return result;
+}
+
+cow_List<int> inp_KeywordTable::AllKeywords() const {
+    std::vector<int> keys;
+    keys.reserve(static_cast<size_t>(m_suboptionMap.Size()));
+    for (cow_ConstMapIterator<int, cow_List<int>> it(m_suboptionMap); it.NotDone(); it.Next())
+        keys.push_back(it.CurrentKey());
+    std::sort(keys.begin(), keys.end());
+    cow_List<int> result;
+    result.SetFromArray(keys.data(), static_cast<int>(keys.size()));
+    return result;
+}
+
+cow_List<int> inp_KeywordTable::ParentKeywords(inp_KeywordEnm keyword) const {
+    cow_List<int> parents;
+    for (cow_ConstMapIterator<int, cow_List<int>> it(m_suboptionMap); it.NotDone(); it.Next())
+        if (it.CurrentValue().IsMember(keyword)) parents.AppendUnlessMember(it.CurrentKey());
+    return parents;
+}
+
+cow_List<int> inp_KeywordTable::PartSuboptions() const { return AllKeywordsBelow(inp_kw_Part); }
+
+cow_List<int> inp_KeywordTable::InstanceSuboptions() const { return AllKeywordsBelow(inp_kw_Instance); }
+
+cow_List<int> inp_KeywordTable::directSuboptionsWithout(int keyword, int excluded) const {
+    cow_List<int> result;
+    for (int sub : Suboptions(keyword))
+        if (sub != excluded) result.Append(sub);
+    return result;
+}
+
+cow_List<int> inp_KeywordTable::AssemblySuboptions() const {
+    return AllKeywordsBelow(directSuboptionsWithout(inp_kw_Assembly, inp_kw_Instance));
+}
+
+cow_List<int> inp_KeywordTable::ModelSuboptions() const {
+    cow_List<int> direct;
+    for (int sub : Suboptions(inp_kw_Model))
+        if (sub != inp_kw_Assembly && sub != inp_kw_Part) direct.Append(sub);
+    return AllKeywordsBelow(direct);
+}
+
+cow_String inp_KeywordTable::KeywordEnum2String(cow_List<int> keywords) const {
+    cow_String result;
+    for (int k = 0; k < keywords.Length(); ++k) {
+        if (k > 0) result.append(", ");
+        result.append(Name(static_cast<inp_KeywordEnm>(keywords.ConstGet(k))));
+    }
+    return result;
+}
+
+int inp_KeywordTable::Finalize() {
+    thr_ThreadSingleton<inp_KeywordTable>::Finalize();
+    return 0;
+}

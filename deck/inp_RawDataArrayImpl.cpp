@@ -1,0 +1,256 @@
+#include "deck/inp_RawDataArrayImpl.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+
+#include "deck/inp_Exceptions.h"
+#include "deck/inp_QuotedText.h"
+#include "support/ZELBasAssert.h"
+
+namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+
+// atoi, without the library call for the common case of a short plain number.
+int parseInt(char const* text) {
+    char const* p = text;
+    while (*p == ' ' || *p == '\t' || *p == '\r' || *p == '\n' || *p == '\f' || *p == '\v') ++p;
+    bool negative = *p == '-';
+    if (*p == '+' || *p == '-') ++p;
+    int digits = 0;
+    long long value = 0;
+    while (p[digits] >= '0' && p[digits] <= '9' && digits < 10) value = value * 10 + (p[digits++] - '0');
+    if (digits == 10) return static_cast<int>(std::strtol(text, nullptr, 10));
+    return static_cast<int>(negative ? -value : value);
+}
+
+// atof, through the faster from_chars where it gives the same answer. Forms
+// that from_chars reads differently (hexadecimal, inf, nan, out of range) go
+// to strtod.
+double parseDouble(char const* text) {
+    char const* p = text;
+    while (*p == ' ' || *p == '\t' || *p == '\r' || *p == '\n' || *p == '\f' || *p == '\v') ++p;
+    char const* start = *p == '+' ? p + 1 : p;
+    if (*p == '+' && start[0] == '-') return 0.0;  // "+-1" is no number for atof either
+    size_t length = std::strlen(start);
+    double value = 0.0;
+    auto [end, error] = std::from_chars(start, start + length, value);
+    if (error == std::errc() && !std::strchr("xXnNiIpP", *end)) return value;
+    if (error == std::errc::invalid_argument && !std::strchr("nNiI", *start)) return 0.0;
+    return std::strtod(text, nullptr);
+}
+
+}  // namespace
+
+inp_RawDataArrayImpl::inp_RawDataArrayImpl() = default;
+
+inp_RawDataArrayImpl::inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other) {
+    if (other.nrows == 0) return;
+    rows = static_cast<char**>(mem_Malloc(sizeof(char*) * static_cast<size_t>(other.nrows)));
+    ncols = static_cast<int*>(mem_Malloc(sizeof(int) * static_cast<size_t>(other.nrows)));
+    if (!rows || !ncols) {
+        mem_Free(rows);
+        mem_Free(ncols);
+        rows = nullptr;
+        ncols = nullptr;
+        throw inp_MemoryException();
+    }
+    allocatedSize = other.nrows;
+    for (int i = 0; i < other.nrows; ++i) {
+        // A row block holds the line with zeros for commas: its size is the
+        // position of the last item's terminator plus one.
+        char const* last = other.Item(i, other.ncols[i] - 1);
+        size_t size = static_cast<size_t>(last - other.rows[i]) + std::strlen(last) + 1;
+        char* block = static_cast<char*>(mem_Malloc(size));
+        if (!block) throw inp_MemoryException();
+        std::memcpy(block, other.rows[i], size);
+        rows[i] = block;
+        ncols[i] = other.ncols[i];
+        nrows = i + 1;
+    }
+}
+
+inp_RawDataArrayImpl::~inp_RawDataArrayImpl() {
+    for (int i = 0; i < nrows; ++i) mem_Free(rows[i]);
+    mem_Free(rows);
+    mem_Free(ncols);
+}
+
+inp_DataArrayImpl* inp_RawDataArrayImpl::Copy() const { return new inp_RawDataArrayImpl(*this); }
+
+// The row table is allocated on the first append rather than at construction:
+// most keywords have no data lines, and the first append gives the same 10 rows.
+void inp_RawDataArrayImpl::growIfFull() {
+    if (nrows + 1 <= allocatedSize) return;
+    int newSize = allocatedSize * 2 > 10 ? allocatedSize * 2 : 10;
+    auto* newRows = static_cast<char**>(mem_Realloc(rows, sizeof(char*) * static_cast<size_t>(newSize)));
+    if (!newRows) throw inp_MemoryException();
+    rows = newRows;
+    auto* newCols = static_cast<int*>(mem_Realloc(ncols, sizeof(int) * static_cast<size_t>(newSize)));
+    if (!newCols) throw inp_MemoryException();
+    ncols = newCols;
+    allocatedSize = newSize;
+}
+
+char* inp_RawDataArrayImpl::copyLine(char const* line, size_t& length) {
+    length = std::strlen(line);
+    char* block = static_cast<char*>(mem_Malloc(length + 1));
+    if (!block) throw inp_MemoryException();
+    std::memcpy(block, line, length + 1);
+    return block;
+}
+
+int inp_RawDataArrayImpl::splitAtCommas(char* block, size_t length) {
+    int columns = 1;
+    bool quoted = false;
+    for (size_t k = 0; k < length; ++k) {
+        char c = block[k];
+        if (c == '"') {
+            quoted = !quoted;
+        } else if (c == ',' && !quoted) {
+            block[k] = 0;
+            ++columns;
+        }
+    }
+    return columns;
+}
+
+void inp_RawDataArrayImpl::Append(char const* line) {
+    growIfFull();
+    size_t length = 0;
+    char* block = copyLine(line ? line : "", length);
+    rows[nrows] = block;
+    ncols[nrows] = splitAtCommas(block, length);
+    ++nrows;
+}
+
+void inp_RawDataArrayImpl::AppendRaw(char const* line) {
+    growIfFull();
+    size_t length = 0;
+    rows[nrows] = copyLine(line ? line : "", length);
+    ncols[nrows] = 1;
+    ++nrows;
+}
+
+void inp_RawDataArrayImpl::checkRow(int i) const { ZELBAS_ASSERT_TEXT(i >= 0 && i < nrows, "i >= 0 && i < nrows"); }
+
+void inp_RawDataArrayImpl::checkItem(int i, int j) const {
+    checkRow(i);
+    ZELBAS_ASSERT_TEXT(j >= 0 && j < ncols[i], "j >= 0 && j < ncols[i]");
+}
+
+int inp_RawDataArrayImpl::Cols(int i) const {
+    checkRow(i);
+    return ncols[i];
+}
+
+char const* inp_RawDataArrayImpl::Item(int i, int j) const {
+    checkItem(i, j);
+    char const* item = rows[i];
+    for (int k = 0; k < j; ++k) item += std::strlen(item) + 1;
+    return item;
+}
+
+inp_Types::typeEnm inp_RawDataArrayImpl::Type(char const* text) {
+    char const* p = text;
+    while (isBlank(*p)) ++p;
+    int length = 0;
+    for (char const* q = p; *q; ++q)
+        if (!isBlank(*q)) ++length;
+    if (length == 0) return inp_Types::inp_NONE;
+
+    char first = *p;
+    if (*p == '+' || *p == '-') ++p;
+    if (first == 'e' || first == 'd' || first == 'E' || first == 'D') return inp_Types::inp_STRING;
+
+    // Blanks inside the item are passed over like those around it.
+    int signs = 0, points = 0, exponents = 0, digits = 0;
+    for (; *p; ++p) {
+        char c = *p;
+        if (c >= '0' && c <= '9') {
+            ++digits;
+        } else if (c == '+' || c == '-') {
+            ++signs;
+        } else if (c == '.') {
+            ++points;
+        } else if (c == 'e' || c == 'd' || c == 'E' || c == 'D') {
+            ++exponents;
+        } else if (!isBlank(c)) {
+            return inp_Types::inp_STRING;
+        }
+    }
+    if (signs >= 2) return inp_Types::inp_STRING;
+    if (signs == 0 && points == 0) {
+        if (exponents == 1) return inp_Types::inp_REAL;
+        if (exponents >= 2) return inp_Types::inp_STRING;
+        return digits <= 9 ? inp_Types::inp_INTEGER : inp_Types::inp_REAL;
+    }
+    if (points >= 2 || exponents >= 2) return inp_Types::inp_STRING;
+    return inp_Types::inp_REAL;
+}
+
+inp_Types::typeEnm inp_RawDataArrayImpl::Type(int i, int j) { return Type(Item(i, j)); }
+
+bool inp_RawDataArrayImpl::IsNone(int i, int j) const {
+    for (char const* p = Item(i, j); *p; ++p)
+        if (!isBlank(*p)) return false;
+    return true;
+}
+
+bool inp_RawDataArrayImpl::HasValue(int i, int j) const {
+    if (i < 0 || i >= nrows || j < 0 || j >= ncols[i]) return false;
+    return !IsNone(i, j);
+}
+
+int inp_RawDataArrayImpl::AsInt(int i, int j) const { return parseInt(Item(i, j)); }
+
+double inp_RawDataArrayImpl::AsDouble(int i, int j) const {
+    // The stored text is rewritten on purpose: "1.5D3" becomes "1.5e3" for good.
+    char* item = const_cast<char*>(Item(i, j));
+    char* exponent = std::strchr(item, 'D');
+    if (!exponent) exponent = std::strchr(item, 'd');
+    if (exponent) *exponent = 'e';
+    return parseDouble(item);
+}
+
+cow_String inp_RawDataArrayImpl::AsStringVerbatim(int i, int j) {
+    char const* item = Item(i, j);
+    size_t begin = 0, end = std::strlen(item);
+    while (begin < end && (item[begin] == ' ' || item[begin] == '\t')) ++begin;
+    while (end > begin && (item[end - 1] == ' ' || item[end - 1] == '\t')) --end;
+    return cow_String(item + begin, static_cast<int>(end - begin));
+}
+
+cow_String inp_RawDataArrayImpl::AsString(int i, int j) {
+    return inp_TakeOutSpacesAndUpperOutsideQuoted(AsStringVerbatim(i, j).CStr());
+}
+
+inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, cow_String const& text) {
+    checkRow(i);
+    ZELBAS_ASSERT_TEXT(j >= 0, "j >= 0");
+    int columns = ncols[i] > j + 1 ? ncols[i] : j + 1;
+    cow_String line;
+    for (int k = 0; k < columns; ++k) {
+        if (k > 0) line.append(',');
+        if (k == j) {
+            line.append(text);
+        } else if (k < ncols[i]) {
+            line.append(AsStringVerbatim(i, k));
+        }
+    }
+    size_t length = 0;
+    char* block = copyLine(line.CStr(), length);
+    mem_Free(rows[i]);
+    rows[i] = block;
+    ncols[i] = splitAtCommas(block, length);
+    return *this;
+}
+
+inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, double value) {
+    return Set(i, j, cow_String::FromDouble(value));
+}
+
+inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, int value) { return Set(i, j, cow_String::FromInt(value)); }
+
+bool inp_RawDataArrayImpl::HasRowContinuation(int i) const { return IsNone(i, Cols(i) - 1); }

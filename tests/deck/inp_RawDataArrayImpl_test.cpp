@@ -1,0 +1,175 @@
+#include "deck/inp_RawDataArrayImpl.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+#include <string>
+
+#include "support/ZELBasException.h"
+
+namespace {
+
+inp_RawDataArrayImpl arrayOf(std::initializer_list<char const*> lines) {
+    inp_RawDataArrayImpl data;
+    for (char const* line : lines) data.Append(line);
+    return data;
+}
+
+std::string conditionOf(auto&& call) {
+    try {
+        call();
+    } catch (ZELBasAssertException const& e) {
+        return e.Condition().CStr();
+    }
+    return "no assertion";
+}
+
+}  // namespace
+
+TEST(RawDataSplit, CommasOutsideQuotesSeparateItems) {
+    inp_RawDataArrayImpl data = arrayOf({"1, 2,", "\"a,b\", c", "", "a,,b"});
+    EXPECT_EQ(data.Rows(), 4);
+    EXPECT_EQ(data.Cols(0), 3);
+    EXPECT_TRUE(data.HasRowContinuation(0));
+    EXPECT_TRUE(data.IsNone(0, 2));
+    EXPECT_EQ(data.Cols(1), 2);
+    EXPECT_EQ(data.AsString(1, 0), "\"a,b\"");
+    EXPECT_EQ(data.AsString(1, 1), "C");
+    EXPECT_EQ(data.Cols(2), 1);
+    EXPECT_TRUE(data.IsNone(2, 0));
+    EXPECT_FALSE(data.HasValue(3, 1));
+    EXPECT_TRUE(data.HasValue(3, 2));
+    EXPECT_FALSE(data.HasValue(9, 0));
+    EXPECT_FALSE(data.HasValue(-1, 0));
+    EXPECT_FALSE(data.HasRowContinuation(1));
+}
+
+TEST(RawDataSplit, AppendRawKeepsTheLineAsOneItem) {
+    inp_RawDataArrayImpl data;
+    data.AppendRaw("Title, with commas, kept");
+    EXPECT_EQ(data.Cols(0), 1);
+    EXPECT_EQ(data.AsStringVerbatim(0, 0), "Title, with commas, kept");
+}
+
+TEST(RawDataSplit, ManyRowsGrowTheTable) {
+    inp_RawDataArrayImpl data;
+    for (int i = 0; i < 10000; ++i) data.Append(std::to_string(i).c_str());
+    EXPECT_EQ(data.Rows(), 10000);
+    EXPECT_EQ(data.AsInt(9999, 0), 9999);
+    EXPECT_EQ(data.AsInt(10, 0), 10);
+}
+
+TEST(RawDataType, ScanFollowsTheCountingRules) {
+    using T = inp_Types;
+    struct Case {
+        char const* text;
+        inp_Types::typeEnm type;
+    } cases[] = {
+        {"17", T::inp_INTEGER},        {" -17 ", T::inp_INTEGER},     {"+", T::inp_INTEGER},
+        {"-", T::inp_INTEGER},         {"123456789", T::inp_INTEGER}, {"1234567890", T::inp_REAL},
+        {"-1234567890", T::inp_REAL},  {"1e5", T::inp_REAL},          {"1.5", T::inp_REAL},
+        {".", T::inp_REAL},            {"+.", T::inp_REAL},           {"1-2", T::inp_REAL},
+        {"1.5D3", T::inp_REAL},        {"-1.5e-3", T::inp_REAL},      {"e5", T::inp_STRING},
+        {"D1", T::inp_STRING},         {"+e5", T::inp_REAL},        {"1e5e", T::inp_STRING},
+        {"1.2.3", T::inp_STRING},      {"1+2-3", T::inp_STRING},      {"abc", T::inp_STRING},
+        {"1.e5e", T::inp_STRING},      {"", T::inp_NONE},             {" \t\r", T::inp_NONE},
+        {"12 3", T::inp_INTEGER},      {"\"1\"", T::inp_STRING},
+    };
+    for (Case const& c : cases) EXPECT_EQ(inp_RawDataArrayImpl::Type(c.text), c.type) << '"' << c.text << '"';
+}
+
+TEST(RawDataType, NoByteSequenceUpsetsTheScan) {
+    std::mt19937 random(7);
+    for (int n = 0; n < 20000; ++n) {
+        std::string text;
+        int length = static_cast<int>(random() % 12);
+        for (int k = 0; k < length; ++k) text += static_cast<char>(1 + random() % 255);
+        inp_RawDataArrayImpl data;
+        data.Append(text.c_str());
+        for (int j = 0; j < data.Cols(0); ++j) {
+            data.Type(0, j);
+            data.AsInt(0, j);
+            data.AsDouble(0, j);
+            data.AsString(0, j);
+        }
+    }
+}
+
+TEST(RawDataConversion, AsDoubleRewritesTheExponentLetterInPlace) {
+    inp_RawDataArrayImpl data = arrayOf({"1.5D3, 2.5d-1, 3d2D1"});
+    EXPECT_DOUBLE_EQ(data.AsDouble(0, 0), 1500.0);
+    EXPECT_EQ(data.AsStringVerbatim(0, 0), "1.5e3");
+    EXPECT_DOUBLE_EQ(data.AsDouble(0, 1), 0.25);
+    EXPECT_EQ(data.AsStringVerbatim(0, 1), "2.5e-1");
+    data.AsDouble(0, 2);  // the first D, not the first d, is rewritten
+    EXPECT_EQ(data.AsStringVerbatim(0, 2), "3d2e1");
+}
+
+TEST(RawDataConversion, NumbersReadAsTheCLibraryReadsThem) {
+    char const* texts[] = {" 12", "+5", "-0", "1e", "5.", ".5", ".", "+.", "1.5e3x", "0x10", "inf", "-nan", "1e999",
+                           "12abc", "+-1", "-+1", "", "  7  ", "2147483648", "99999999999", "-2147483649",
+                           "00000000012", "1-2"};
+    for (char const* text : texts) {
+        inp_RawDataArrayImpl data;
+        data.AppendRaw(text);
+        double expected = std::atof(text);
+        double actual = data.AsDouble(0, 0);
+        if (expected != expected) {
+            EXPECT_NE(actual, actual) << text;
+        } else {
+            EXPECT_EQ(actual, expected) << text;
+        }
+        EXPECT_EQ(data.AsInt(0, 0), std::atoi(text)) << text;
+    }
+}
+
+TEST(RawDataConversion, StringsAreTrimmedOrFolded) {
+    inp_RawDataArrayImpl data = arrayOf({"  part 1 \t, \"My Set\" ,x"});
+    EXPECT_EQ(data.AsStringVerbatim(0, 0), "part 1");
+    EXPECT_EQ(data.AsString(0, 0), "PART1");
+    EXPECT_EQ(data.AsString(0, 1), "\"My Set\"");
+    EXPECT_EQ(data.AsStringVerbatim(0, 2), "x");
+}
+
+TEST(RawDataSet, RebuildsTheRowAndPadsMissingColumns) {
+    inp_RawDataArrayImpl data = arrayOf({" a , b"});
+    data.Set(0, 4, cow_String("x"));
+    EXPECT_EQ(data.Cols(0), 5);
+    EXPECT_EQ(data.AsStringVerbatim(0, 0), "a");
+    EXPECT_EQ(data.AsStringVerbatim(0, 1), "b");
+    EXPECT_TRUE(data.IsNone(0, 2));
+    EXPECT_TRUE(data.IsNone(0, 3));
+    EXPECT_EQ(data.AsStringVerbatim(0, 4), "x");
+
+    data.Set(0, 1, 2.5).Set(0, 0, 7);
+    EXPECT_EQ(data.AsInt(0, 0), 7);
+    EXPECT_DOUBLE_EQ(data.AsDouble(0, 1), 2.5);
+    EXPECT_EQ(data.Cols(0), 5);
+
+    data.Set(0, 2, cow_String("p,q"));  // a comma in the new text splits like any line
+    EXPECT_EQ(data.Cols(0), 6);
+}
+
+TEST(RawDataRange, OutOfRangeAccessAssertsWithTheCondition) {
+    inp_RawDataArrayImpl data = arrayOf({"1, 2"});
+    EXPECT_EQ(conditionOf([&] { data.AsInt(1, 0); }), "i >= 0 && i < nrows");
+    EXPECT_EQ(conditionOf([&] { data.Cols(-1); }), "i >= 0 && i < nrows");
+    EXPECT_EQ(conditionOf([&] { data.AsString(0, 2); }), "j >= 0 && j < ncols[i]");
+    EXPECT_EQ(conditionOf([&] { data.Type(0, -1); }), "j >= 0 && j < ncols[i]");
+    EXPECT_EQ(conditionOf([&] { data.Set(0, -1, cow_String("x")); }), "j >= 0");
+    EXPECT_EQ(conditionOf([&] { data.Set(3, 0, cow_String("x")); }), "i >= 0 && i < nrows");
+}
+
+TEST(RawDataCopy, CopyIsIndependent) {
+    inp_RawDataArrayImpl data = arrayOf({"1, 2D0", "\"a,b\",c,"});
+    inp_DataArrayImpl* copy = data.Copy();
+    copy->Set(0, 0, 9);
+    copy->AsDouble(0, 1);
+    EXPECT_EQ(data.AsInt(0, 0), 1);
+    EXPECT_EQ(data.AsStringVerbatim(0, 1), "2D0");
+    EXPECT_EQ(copy->Cols(1), 3);
+    EXPECT_EQ(copy->AsString(1, 0), "\"a,b\"");
+    EXPECT_TRUE(copy->HasRowContinuation(1));
+    delete copy;
+}
