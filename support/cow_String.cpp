@@ -57,6 +57,7 @@ cow_String::cow_String(cow_String&& other) noexcept : m_chars(other.m_chars), m_
 }
 
 cow_String& cow_String::operator=(cow_String const& other) noexcept {
+    if (this == &other) return *this;
     if (other.m_rep) ++other.m_rep->refs;
     Rep* rep = other.m_rep;
     char* chars = other.m_chars;
