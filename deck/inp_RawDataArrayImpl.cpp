@@ -155,10 +155,8 @@ char const* inp_RawDataArrayImpl::Item(int i, int j) const {
 inp_Types::typeEnm inp_RawDataArrayImpl::Type(char const* text) {
     char const* p = text;
     while (isBlank(*p)) ++p;
-    int length = 0;
-    for (char const* q = p; *q; ++q)
-        if (!isBlank(*q)) ++length;
-    if (length == 0) return inp_Types::inp_NONE;
+    // After the leading blanks, anything at all means a non-blank length.
+    if (*p == 0) return inp_Types::inp_NONE;
 
     char first = *p;
     if (*p == '+' || *p == '-') ++p;
