@@ -17,7 +17,7 @@ build: $(BUILD)/CMakeCache.txt
 # Until the command-line checker exists, `run` builds and runs the fastest
 # subset of the suite: the keyword table and deck model tests.
 run: build
-	ctest --test-dir $(BUILD) -R "^(Keyword|Raw|Quoted|Item)" --output-on-failure -j $(JOBS)
+	ctest --test-dir $(BUILD) -R "^(Keyword|RawData|QuotedText|InpItem|Deck)" --output-on-failure -j $(JOBS)
 
 test: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <random>
 #include <string>
 #include <string_view>
@@ -35,24 +36,17 @@ TEST(InpTypesPatterns, TextsAreExactlyAsHandedToTheEngine) {
     EXPECT_STREQ(inp_Types::fakeName(), "FAKE");
 }
 
-TEST(InpTypesPatterns, TypeValuesAreFixed) {
-    EXPECT_EQ(inp_Types::inp_INTEGER, 0);
-    EXPECT_EQ(inp_Types::inp_BOOLEAN, 1);
-    EXPECT_EQ(inp_Types::inp_REAL, 2);
-    EXPECT_EQ(inp_Types::inp_STRING, 3);
-    EXPECT_EQ(inp_Types::inp_NONE, 4);
-}
+// Callers compare the numbers.
+static_assert(inp_Types::inp_INTEGER == 0 && inp_Types::inp_BOOLEAN == 1 && inp_Types::inp_REAL == 2 &&
+              inp_Types::inp_STRING == 3 && inp_Types::inp_NONE == 4);
 
 std::string printable(std::string_view text) {
-    static char const hex[] = "0123456789abcdef";
     std::string out = "\"";
     for (char c : text) {
         auto byte = static_cast<unsigned char>(c);
-        if (c == '\t') out += "\\t";
-        else if (c == '\n') out += "\\n";
-        else if (c == '\r') out += "\\r";
-        else if (byte < 32 || byte >= 127) out += std::string("\\x") + hex[byte >> 4] + hex[byte & 15];
-        else out += c;
+        char escaped[8];
+        std::snprintf(escaped, sizeof escaped, "\\x%02x", byte);
+        out += (byte < 32 || byte >= 127) ? escaped : std::string(1, c);
     }
     return out + "\"";
 }
@@ -82,14 +76,15 @@ std::vector<std::string> charactersOf(std::string_view alphabet) {
 // single characters, and tokens that build names, quotes and numbers.
 std::vector<std::string> const& generatedTexts() {
     static std::vector<std::string> const texts = [] {
-        std::vector<std::string> single =
-            charactersOf(std::string_view("aAbzZeEdDuUvVx_0159.,=\"+- \t\n/$%#;:*()'\\\r\x80\xe9\xff\0", 46));
-        std::vector<std::string> out = textsFromTokens(single, 120000, 20240611);
+        // Ends in a zero byte of its own, besides the terminating one.
+        static constexpr char alphabet[] = "aAbzZeEdDuUvVx_0159.,=\"+- \t\n/$%#;:*()'\\\r\x80\xe9\xff\0";
+        std::vector<std::string> single = charactersOf(std::string_view(alphabet, sizeof alphabet - 1));
+        std::vector<std::string> out = textsFromTokens(single, 100000, 20240611);
         std::vector<std::string> words = {
             "a", "Part-1", "_x", "e", "E", "d", "D", "Z", "z", "U", "vu", "1", "42", "007", ".", "..", ",", "=",
             "\"", "\"ab\"", "\"a b\"", "\"\"", "+", "-", " ", "\t", "\n", "/", "$", "%", "x.y", "7.8E3", "1d2",
             "\xc3\xa9", "\r", "a,b", "\".\""};
-        for (std::string& text : textsFromTokens(words, 120000, 7)) out.push_back(std::move(text));
+        for (std::string& text : textsFromTokens(words, 100000, 7)) out.push_back(std::move(text));
         return out;
     }();
     return texts;
@@ -115,7 +110,32 @@ struct NamedPattern {
     // Characters and pieces that make texts close to the pattern, matching
     // or just missing it; each is one token.
     std::vector<std::string> nearTokens;
+    // Texts that match, to be mutated into near misses.
+    std::vector<std::string> seeds;
 };
+
+// Each seed with one to three random edits: a token inserted, a character
+// replaced by a token, or a character removed.
+std::vector<std::string> mutationsOf(NamedPattern const& pattern, size_t count, unsigned seed) {
+    std::mt19937 random(seed);
+    std::unordered_set<std::string> seen;
+    std::vector<std::string> out;
+    auto const& tokens = pattern.nearTokens;
+    for (size_t attempts = 0; out.size() < count && attempts < 4 * count; ++attempts) {
+        std::string text = pattern.seeds[random() % pattern.seeds.size()];
+        for (int edits = 1 + random() % 3; edits > 0; --edits) {
+            size_t at = text.empty() ? 0 : random() % (text.size() + 1);
+            std::string const& token = tokens[random() % tokens.size()];
+            switch (random() % 3) {
+                case 0: text.insert(at, token); break;
+                case 1: if (at < text.size()) text.replace(at, 1, token); break;
+                default: if (at < text.size()) text.erase(at, 1); break;
+            }
+        }
+        if (seen.insert(text).second) out.push_back(std::move(text));
+    }
+    return out;
+}
 
 class InpPatternMatchersAgreeWithRegex : public ::testing::TestWithParam<NamedPattern> {
 protected:
@@ -144,40 +164,55 @@ TEST_P(InpPatternMatchersAgreeWithRegex, OnHandPickedTexts) { expectAgreement(Ge
 TEST_P(InpPatternMatchersAgreeWithRegex, OnGeneratedTexts) { expectAgreement(GetParam(), generatedTexts()); }
 
 TEST_P(InpPatternMatchersAgreeWithRegex, OnTextsNearThePattern) {
-    std::vector<std::string> texts = textsFromTokens(GetParam().nearTokens, 100000, 1234);
+    std::vector<std::string> texts = textsFromTokens(GetParam().nearTokens, 50000, 1234);
+    for (std::string& text : mutationsOf(GetParam(), 60000, 99)) texts.push_back(std::move(text));
     int matches = expectAgreement(GetParam(), texts);
     // A comparison on texts that hardly ever match proves little.
     EXPECT_GE(matches, static_cast<int>(texts.size() / 50)) << "too few matching texts";
 }
 
-using Tokens = std::vector<std::string>;
+using Texts = std::vector<std::string>;
 
-Tokens nameTokens() {
+Texts nameTokens() {
     return {"a", "Z", "_", "x1", "-", ".", ".", "\"", "\"", "\"q\"", "\"a b\"", "\"\"", " ", "\t", "\n", ",", "=",
             "7", "42", "/", "$", "%", "\xe9", "\r", "e", "d"};
+}
+
+Texts nameSeeds() {
+    return {"a", " Part-1 ", "_x.y", "\"my part\".\"my set\"", "a.\"b,c\".d", "\"a\"", "x y\t", "1a.txt",
+            "/tmp/a.inp", "$H/%x", "\"a=b\"", "a.b.c", "\"q\".r.\"s\""};
+}
+
+Texts numberTokens() { return charactersOf("0159+-..eEdD \t\n,x"); }
+
+Texts numberSeeds() {
+    return {"1", "+5", " -12 ", "1.5", ".5", "5.", ".", "-.", "1e5", "1.5E-3", "e5", "2d3", "1.5D+3", ".d1", "\t7.8E3"};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     EachPattern, InpPatternMatchersAgreeWithRegex,
     ::testing::Values(
-        NamedPattern{"string", inp_Types::stringPat(), &inp_PatternMatchers::MatchString, nameTokens()},
+        NamedPattern{"string", inp_Types::stringPat(), &inp_PatternMatchers::MatchString, nameTokens(), nameSeeds()},
         NamedPattern{"integer", inp_Types::integerPat(), &inp_PatternMatchers::MatchInteger,
-                     charactersOf("0123456789+- \t.e\n,x")},
-        NamedPattern{"double", inp_Types::doublePat(), &inp_PatternMatchers::MatchDouble,
-                     charactersOf("0159+-..eEdD \t\n,x")},
-        NamedPattern{"doubleD", inp_Types::doublePatD(), &inp_PatternMatchers::MatchDoubleD,
-                     charactersOf("0159+-..eEdD \t\n,x")},
+                     charactersOf("0123456789+- \t.e\n,x"), numberSeeds()},
+        NamedPattern{"double", inp_Types::doublePat(), &inp_PatternMatchers::MatchDouble, numberTokens(),
+                     numberSeeds()},
+        NamedPattern{"doubleD", inp_Types::doublePatD(), &inp_PatternMatchers::MatchDoubleD, numberTokens(),
+                     numberSeeds()},
         NamedPattern{"param", inp_Types::paramPat(), &inp_PatternMatchers::MatchParam,
-                     charactersOf("aZq09-- \t\t_.\n=,\"")},
-        NamedPattern{"setName", inp_Types::setNamePat(), &inp_PatternMatchers::MatchSetName, nameTokens()},
+                     charactersOf("aZq09-- \t\t_.\n=,\""), {"a", "elset", " Nset-Name 2 ", "a - b\t", "X9"}},
+        NamedPattern{"setName", inp_Types::setNamePat(), &inp_PatternMatchers::MatchSetName, nameTokens(),
+                     nameSeeds()},
         NamedPattern{"scopedID", inp_Types::scopedIDPat(), &inp_PatternMatchers::MatchScopedID,
                      {"a", "_b", "Part-1", "\"", "\"x\"", "\"a b\"", "\"\"", ".", ".", "7", "42", "0", " ", "\t",
-                      "\n", ",", "=", "e", "\"\n\""}},
-        NamedPattern{"fileName", inp_Types::fileNamePat(), &inp_PatternMatchers::MatchFileName, nameTokens()},
+                      "\n", ",", "=", "e", "\"\n\""},
+                     {"17", " Part-1.17 ", "a.b.7", "\"my part\".17", "\"a.b\".c.0", "a,b.5", "x y.\"z\".12"}},
+        NamedPattern{"fileName", inp_Types::fileNamePat(), &inp_PatternMatchers::MatchFileName, nameTokens(),
+                     nameSeeds()},
         NamedPattern{"superelementID", inp_Types::superelementIDPat(), &inp_PatternMatchers::MatchSuperelementID,
-                     charactersOf("zZ0199 \tuU+")},
+                     charactersOf("zZ0199 \tuU+"), {"Z1", " z204 ", "Z0\t"}},
         NamedPattern{"userElementID", inp_Types::userElementIDPat(), &inp_PatternMatchers::MatchUserElementID,
-                     charactersOf("vVuU0199 \tz")}),
+                     charactersOf("vVuU0199 \tz"), {"U1", "VU12", " vvu3 ", "VvVU0"}}),
     [](::testing::TestParamInfo<NamedPattern> const& info) { return std::string(info.param.name); });
 
 // The captures that callers rely on, stated outright.
