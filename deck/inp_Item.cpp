@@ -76,7 +76,7 @@ void inp_Item::inferFrom(cow_String const& text) {
     if (inp_PatternMatch match = Matchers::MatchInteger(value)) {
         m_type = inp_Types::inp_INTEGER;
         m_int = integerOf(match.text);
-    } else if ((match = Matchers::MatchSetName(value))) {
+    } else if ((match = Matchers::MatchSetName(value))) {  // NOLINT(bugprone-branch-clone): the order decides
         m_type = inp_Types::inp_STRING;
         m_string = textOf(match.text, text);
     } else if (Matchers::MatchScopedID(value)) {

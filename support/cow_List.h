@@ -324,7 +324,7 @@ private:
     }
     static Table* newTable(int shift, int capacity) {
         void* memory =
-            ::operator new(kTableHeader + sizeof(Block*) * static_cast<size_t>(capacity));
+            ::operator new(kTableHeader + sizeof(Block*) * static_cast<size_t>(capacity));  // NOLINT(bugprone-sizeof-expression): a table of block pointers
         Table* table = ::new (memory) Table{1, shift, capacity};
         std::fill_n(table->blocks(), capacity, nullptr);
         return table;

@@ -52,15 +52,15 @@ int rgx_ReIterator::GroupCount() const noexcept {
     return m_matched ? static_cast<int>(m_bounds.size() / 2) - 1 : 0;
 }
 
-bool rgx_ReIterator::groupTookPart(int group) const { return m_bounds[2 * group] >= 0; }
+bool rgx_ReIterator::groupTookPart(int group) const { return m_bounds[2 * static_cast<size_t>(group)] >= 0; }
 
 cow_String rgx_ReIterator::String(int group) const {
     ZELBAS_ASSERT(group >= 0);
     if (!m_matched) return cow_String();
     ZELBAS_ASSERT(group <= GroupCount());
     if (!groupTookPart(group)) return cow_String();
-    int begin = m_bounds[2 * group];
-    int end = m_bounds[2 * group + 1];
+    int begin = m_bounds[2 * static_cast<size_t>(group)];
+    int end = m_bounds[2 * static_cast<size_t>(group) + 1];
     if (begin == 0 && end == m_text.Length()) return m_text;  // shares, no copy
     return m_text.Substr(begin, end - begin);
 }

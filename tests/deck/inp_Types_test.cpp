@@ -114,6 +114,8 @@ struct NamedPattern {
     std::vector<std::string> seeds;
 };
 
+void PrintTo(NamedPattern const& named, std::ostream* out) { *out << named.name; }
+
 // Each seed with one to three random edits: a token inserted, a character
 // replaced by a token, or a character removed.
 std::vector<std::string> mutationsOf(NamedPattern const& pattern, size_t count, unsigned seed) {
