@@ -17,7 +17,8 @@ std::vector<std::string> nodeLines(int count) {
     lines.reserve(static_cast<size_t>(count));
     char buffer[128];
     for (int i = 1; i <= count; ++i) {
-        std::snprintf(buffer, sizeof buffer, "%d, %.6f, %.6f, %.6f", i, i * 0.001, i * 0.002 + 1.5, -i * 0.003);
+        std::snprintf(buffer, sizeof buffer, "%d, %.6f, %.6f, %.6f", i, i * 0.001, i * 0.002 + 1.5,
+                      -i * 0.003);
         lines.emplace_back(buffer);
     }
     return lines;
@@ -45,7 +46,8 @@ void TypeScanOfItems(benchmark::State& state) {
         for (int j = 0; j < data.Cols(i); ++j) items.push_back(data.Item(i, j));
     for (auto _ : state) {
         int reals = 0;
-        for (char const* item : items) reals += inp_RawDataArrayImpl::Type(item) == inp_Types::inp_REAL;
+        for (char const* item : items)
+            reals += inp_RawDataArrayImpl::Type(item) == inp_Types::inp_REAL;
         benchmark::DoNotOptimize(reals);
     }
     state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * items.size()));

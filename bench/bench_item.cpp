@@ -10,8 +10,9 @@ namespace {
 
 // Parameter values as they come in decks: names, integers, reals, files.
 std::vector<cow_String> typicalValues() {
-    return {"Part-1", "ELSET_TOP", "12", "-7", "7.8E3", "0.25", "/tmp/a.inp", "1.5d3",
-            "\"my part\"", "Part-1.top", "210000", "NO", "1e-6", "results.odb", "3", "Step-2"};
+    return {"Part-1",     "ELSET_TOP",   "12",          "-7",         "7.8E3",  "0.25",
+            "/tmp/a.inp", "1.5d3",       "\"my part\"", "Part-1.top", "210000", "NO",
+            "1e-6",       "results.odb", "3",           "Step-2"};
 }
 
 void BM_ItemInference(benchmark::State& state) {
@@ -27,9 +28,11 @@ void BM_ItemInference(benchmark::State& state) {
 BENCHMARK(BM_ItemInference);
 
 void BM_ParameterNameMatch(benchmark::State& state) {
-    std::vector<cow_String> const names = {"elset", "name", "instance", "input", "type", "mass flow", "nset"};
+    std::vector<cow_String> const names = {"elset", "name",      "instance", "input",
+                                           "type",  "mass flow", "nset"};
     for (auto _ : state) {
-        for (cow_String const& name : names) benchmark::DoNotOptimize(inp_PatternMatchers::MatchParam(name.View()));
+        for (cow_String const& name : names)
+            benchmark::DoNotOptimize(inp_PatternMatchers::MatchParam(name.View()));
     }
     state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * names.size()));
 }
@@ -41,7 +44,8 @@ void BM_OneRegexMatch(benchmark::State& state) {
     std::vector<cow_String> const values = typicalValues();
     cow_String const pattern = inp_Types::integerPat();
     for (auto _ : state) {
-        for (cow_String const& value : values) benchmark::DoNotOptimize(rgx_match(value, pattern).Matched());
+        for (cow_String const& value : values)
+            benchmark::DoNotOptimize(rgx_match(value, pattern).Matched());
     }
     state.SetItemsProcessed(static_cast<int64_t>(state.iterations() * values.size()));
 }

@@ -9,7 +9,7 @@
 #include "support/cow_List.h"
 
 class inp_DataArray {
-public:
+  public:
     // A new, empty raw-text array.
     inp_DataArray();
     // Takes ownership of `impl`.
@@ -49,6 +49,6 @@ public:
     int UseCount() const { return m_impl.UseCount(); }
     bool SharesWith(inp_DataArray const& other) const { return m_impl.Get() == other.m_impl.Get(); }
 
-private:
+  private:
     cow_CountedHld<inp_DataArrayImpl> m_impl;
 };

@@ -8,7 +8,7 @@
 #include "support/mem_Allocation.h"
 
 class inp_DataArrayImpl : public mem_AllocationOperators {
-public:
+  public:
     virtual ~inp_DataArrayImpl() = default;
 
     virtual int Rows() const = 0;

@@ -1,14 +1,15 @@
 #include "deck/inp_Exceptions.h"
 
 inp_InvalidParameterException::inp_InvalidParameterException(cow_String const& text)
-    : inp_ParameterException(
-          atr("Invalid parameter: %s. The parameter may be misspelled, obsolete, or invalid.", text)) {}
+    : inp_ParameterException(atr(
+          "Invalid parameter: %s. The parameter may be misspelled, obsolete, or invalid.", text)) {}
 
 inp_InvalidParameterValueException::inp_InvalidParameterValueException(cow_String const& parameter,
                                                                        cow_String const& value)
-    : inp_ParameterException(atr("Invalid value \"%s\" for parameter \"%s\". The value may be misspelled, "
-                                 "obsolete, or invalid.",
-                                 value, parameter)) {}
+    : inp_ParameterException(
+          atr("Invalid value \"%s\" for parameter \"%s\". The value may be misspelled, "
+              "obsolete, or invalid.",
+              value, parameter)) {}
 
 inp_MissingEndQuoteException::inp_MissingEndQuoteException(cow_String const& text)
     : inp_ParameterException(atr("Missing end quote in parameter data \"%s\".", text)) {}
@@ -16,15 +17,17 @@ inp_MissingEndQuoteException::inp_MissingEndQuoteException(cow_String const& tex
 inp_KeywordParameterException::inp_KeywordParameterException(int line, cow_String const& fileName,
                                                              cow_String const& keyword,
                                                              inp_ParameterException const& cause)
-    : inp_KeywordException(line, fileName,
-                           atr("Problem when parsing keyword: %s     %s", keyword, cause.UserReport())),
+    : inp_KeywordException(
+          line, fileName,
+          atr("Problem when parsing keyword: %s     %s", keyword, cause.UserReport())),
       m_keywordName(keyword) {}
 
 inp_UnknownKeywordException::inp_UnknownKeywordException(int line, cow_String const& fileName,
                                                          cow_String const& keyword)
     : inp_KeywordException(
           line, fileName,
-          atr("Unknown keyword \"%s\". The keyword may be misspelled, obsolete, or invalid.", keyword)),
+          atr("Unknown keyword \"%s\". The keyword may be misspelled, obsolete, or invalid.",
+              keyword)),
       m_keywordName(keyword) {}
 
 inp_AmbiguousKeywordException::inp_AmbiguousKeywordException(int line, cow_String const& fileName,
@@ -35,23 +38,28 @@ inp_AmbiguousKeywordException::inp_AmbiguousKeywordException(int line, cow_Strin
 inp_NoInputParameterException::inp_NoInputParameterException(int line, cow_String const& fileName)
     : inp_KeywordException(line, fileName, atr("Missing input parameter")) {}
 
-inp_MissingIncludeFileException::inp_MissingIncludeFileException(int line, cow_String const& fileName,
+inp_MissingIncludeFileException::inp_MissingIncludeFileException(int line,
+                                                                 cow_String const& fileName,
                                                                  cow_String const& includeName)
-    : inp_KeywordException(line, fileName, atr("Include file \"%s\" does not exist.", includeName)) {}
+    : inp_KeywordException(line, fileName,
+                           atr("Include file \"%s\" does not exist.", includeName)) {}
 
-inp_UnreadableIncludeFileException::inp_UnreadableIncludeFileException(int line, cow_String const& fileName,
-                                                                       cow_String const& includeName)
+inp_UnreadableIncludeFileException::inp_UnreadableIncludeFileException(
+    int line, cow_String const& fileName, cow_String const& includeName)
     : inp_KeywordException(line, fileName, atr("Input file \"%s\" is unreadable.", includeName)) {}
 
-inp_CircularIncludeFileException::inp_CircularIncludeFileException(int line, cow_String const& fileName,
+inp_CircularIncludeFileException::inp_CircularIncludeFileException(int line,
+                                                                   cow_String const& fileName,
                                                                    cow_String const& includeName)
-    : inp_KeywordException(line, fileName, atr("Include file \"%s\" has already been included.", includeName)) {}
-
-inp_ParameterizedIncludeFileException::inp_ParameterizedIncludeFileException(int line,
-                                                                             cow_String const& fileName,
-                                                                             cow_String const& includeName)
     : inp_KeywordException(line, fileName,
-                           atr("Include file \"%s\" name is parameterized and not substituted.", includeName)) {}
+                           atr("Include file \"%s\" has already been included.", includeName)) {}
+
+inp_ParameterizedIncludeFileException::inp_ParameterizedIncludeFileException(
+    int line, cow_String const& fileName, cow_String const& includeName)
+    : inp_KeywordException(
+          line, fileName,
+          atr("Include file \"%s\" name is parameterized and not substituted.", includeName)) {}
 
 inp_MemoryException::inp_MemoryException()
-    : inp_PrimException(atr("Memory allocation error. Insufficient physical memory or swap space.")) {}
+    : inp_PrimException(
+          atr("Memory allocation error. Insufficient physical memory or swap space.")) {}

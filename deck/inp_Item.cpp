@@ -22,7 +22,8 @@ std::string_view withoutOuterBlanks(std::string_view text) {
 // A matched text is a view into `text`; when it covers all of it the string
 // is shared rather than copied.
 cow_String textOf(std::string_view matched, cow_String const& text) {
-    if (matched.data() == text.CStr() && matched.size() == static_cast<size_t>(text.Length())) return text;
+    if (matched.data() == text.CStr() && matched.size() == static_cast<size_t>(text.Length()))
+        return text;
     return cow_String(matched);
 }
 
@@ -67,7 +68,9 @@ inp_Item::inp_Item(bool flag) : m_type(inp_Types::inp_BOOLEAN), m_bool(flag) {}
 
 inp_Item::inp_Item(double value) : m_type(inp_Types::inp_REAL), m_double(value) {}
 
-inp_Item::inp_Item(cow_String const& text) { inferFrom(text); }
+inp_Item::inp_Item(cow_String const& text) {
+    inferFrom(text);
+}
 
 void inp_Item::inferFrom(cow_String const& text) {
     std::string_view value = withoutOuterBlanks(text.View());
@@ -76,7 +79,8 @@ void inp_Item::inferFrom(cow_String const& text) {
     if (inp_PatternMatch match = Matchers::MatchInteger(value)) {
         m_type = inp_Types::inp_INTEGER;
         m_int = integerOf(match.text);
-    } else if ((match = Matchers::MatchSetName(value))) {  // NOLINT(bugprone-branch-clone): the order decides
+    } else if ((match = Matchers::MatchSetName(
+                    value))) {  // NOLINT(bugprone-branch-clone): the order decides
         m_type = inp_Types::inp_STRING;
         m_string = textOf(match.text, text);
     } else if (Matchers::MatchScopedID(value)) {
@@ -101,7 +105,8 @@ void inp_Item::throwConversion(char const* format) const {
 }
 
 int inp_Item::AsInt() const {
-    if (m_type != inp_Types::inp_INTEGER) throwConversion("Value cannot be converted to an integer: %s");
+    if (m_type != inp_Types::inp_INTEGER)
+        throwConversion("Value cannot be converted to an integer: %s");
     return m_int;
 }
 
@@ -113,22 +118,32 @@ double inp_Item::AsDouble() const {
 
 bool inp_Item::AsBool() const {
     switch (m_type) {
-        case inp_Types::inp_BOOLEAN: return m_bool;
-        case inp_Types::inp_INTEGER: return m_int != 0;
-        case inp_Types::inp_REAL: return m_double != 0.0;
-        case inp_Types::inp_STRING: return !m_string.IsEmpty();
-        case inp_Types::inp_NONE: return false;
+        case inp_Types::inp_BOOLEAN:
+            return m_bool;
+        case inp_Types::inp_INTEGER:
+            return m_int != 0;
+        case inp_Types::inp_REAL:
+            return m_double != 0.0;
+        case inp_Types::inp_STRING:
+            return !m_string.IsEmpty();
+        case inp_Types::inp_NONE:
+            return false;
     }
     throwConversion("Value cannot be converted to a bool: %s");
 }
 
 cow_String inp_Item::AsString() const {
     switch (m_type) {
-        case inp_Types::inp_BOOLEAN: return m_bool ? "TRUE" : "FALSE";
-        case inp_Types::inp_INTEGER: return cow_String::FromInt(m_int);
-        case inp_Types::inp_REAL: return cow_String::FromDouble(m_double);
-        case inp_Types::inp_STRING: return m_string;
-        case inp_Types::inp_NONE: return "None";
+        case inp_Types::inp_BOOLEAN:
+            return m_bool ? "TRUE" : "FALSE";
+        case inp_Types::inp_INTEGER:
+            return cow_String::FromInt(m_int);
+        case inp_Types::inp_REAL:
+            return cow_String::FromDouble(m_double);
+        case inp_Types::inp_STRING:
+            return m_string;
+        case inp_Types::inp_NONE:
+            return "None";
     }
     ZELBAS_ASSERT_TEXT(false, "\"Unimplemented input file item type\" == 0");
     return cow_String();

@@ -8,7 +8,7 @@
 // A plain value: copying copies the fields (the text is shared copy-on-write).
 // Only the field of the item's type means anything; the others are zero.
 class inp_Item {
-public:
+  public:
     // An item without a value.
     inp_Item() = default;
     explicit inp_Item(int value);
@@ -36,7 +36,7 @@ public:
     // "None" without a value.
     cow_String AsString() const;
 
-private:
+  private:
     void inferFrom(cow_String const& text);
     [[noreturn]] void throwConversion(char const* format) const;
 

@@ -13,9 +13,12 @@ bool hasNoValueText(inp_Item const& item) {
 
 }  // namespace
 
-inp_Keyword::inp_Keyword(cow_String const& name) : m_keyword(inp_KeywordTable::Instance().Enum(name)) {}
+inp_Keyword::inp_Keyword(cow_String const& name)
+    : m_keyword(inp_KeywordTable::Instance().Enum(name)) {}
 
-cow_String inp_Keyword::Name() const { return inp_KeywordTable::Instance().Name(m_keyword); }
+cow_String inp_Keyword::Name() const {
+    return inp_KeywordTable::Instance().Name(m_keyword);
+}
 
 int inp_Keyword::GetParameterAsInt(cow_String const& name, int fallback) const {
     inp_Item const* item = m_parameters.Find(name);
@@ -25,7 +28,8 @@ int inp_Keyword::GetParameterAsInt(cow_String const& name, int fallback) const {
 double inp_Keyword::GetParameterAsDouble(cow_String const& name, double fallback) const {
     inp_Item const* item = m_parameters.Find(name);
     if (!item) return fallback;
-    if (item->Type() == inp_Types::inp_REAL || item->Type() == inp_Types::inp_INTEGER) return item->AsDouble();
+    if (item->Type() == inp_Types::inp_REAL || item->Type() == inp_Types::inp_INTEGER)
+        return item->AsDouble();
     return fallback;
 }
 
@@ -54,8 +58,8 @@ inp_Keyword inp_Keyword::DeepCopy() const {
 // Set and surface names with blanks must keep them when the deck is read
 // again, so the set keywords quote such items.
 bool inp_Keyword::quotesItemsWithBlanks() const {
-    return m_keyword == inp_kw_Nset || m_keyword == inp_kw_Elset || m_keyword == inp_kw_ImportNset ||
-           m_keyword == inp_kw_ImportElset;
+    return m_keyword == inp_kw_Nset || m_keyword == inp_kw_Elset ||
+           m_keyword == inp_kw_ImportNset || m_keyword == inp_kw_ImportElset;
 }
 
 void inp_Keyword::printDataRows(eli_eostream& out) const {
@@ -65,7 +69,8 @@ void inp_Keyword::printDataRows(eli_eostream& out) const {
         for (int j = 0; j < m_data.Cols(i); ++j) {
             if (j > 0) row.append(", ");
             cow_String verbatim = m_data.AsStringVerbatim(i, j);
-            if (quoteBlanks && !verbatim.IsEmpty() && verbatim[0] != '"' && verbatim.Find(' ') >= 0) {
+            if (quoteBlanks && !verbatim.IsEmpty() && verbatim[0] != '"' &&
+                verbatim.Find(' ') >= 0) {
                 row.append('"').append(verbatim).append('"');
             } else {
                 row.append(m_data.AsString(i, j));

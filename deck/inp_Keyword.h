@@ -19,12 +19,13 @@ class eli_eostream;
 class inp_Visitor;
 
 class inp_Keyword {
-public:
+  public:
     inp_Keyword() = default;
     // The enumerator is resolved through the keyword table; 0 if unknown.
     explicit inp_Keyword(cow_String const& name);
     explicit inp_Keyword(inp_KeywordEnm keyword) : m_keyword(keyword) {}
-    inp_Keyword(inp_KeywordEnm keyword, cow_String const& fileName) : m_keyword(keyword), m_fileName(fileName) {}
+    inp_Keyword(inp_KeywordEnm keyword, cow_String const& fileName)
+        : m_keyword(keyword), m_fileName(fileName) {}
 
     inp_KeywordEnm Keyword() const { return m_keyword; }
     // Setting 0 blanks the record: later stages pass it over and drop it.
@@ -39,8 +40,12 @@ public:
     // Parameters, keyed by their folded names.
     cow_Map<cow_String, inp_Item> const& Parameters() const { return m_parameters; }
     cow_Map<cow_String, inp_Item>& GetParameters() { return m_parameters; }
-    void SetParameters(cow_Map<cow_String, inp_Item> const& parameters) { m_parameters = parameters; }
-    void SetParameter(cow_String const& name, inp_Item const& value) { m_parameters.Insert(name, value); }
+    void SetParameters(cow_Map<cow_String, inp_Item> const& parameters) {
+        m_parameters = parameters;
+    }
+    void SetParameter(cow_String const& name, inp_Item const& value) {
+        m_parameters.Insert(name, value);
+    }
     bool RemoveParameter(cow_String const& name) { return m_parameters.Remove(name); }
     bool HasParameter(cow_String const& name) const { return m_parameters.IsMember(name); }
     // `fallback` unless the parameter exists with an integer item.
@@ -84,7 +89,7 @@ public:
     // The form used for debug output and the flat entry.
     cow_String Print(bool withSuboptions) const;
 
-private:
+  private:
     void printDataRows(eli_eostream& out) const;
     void printDebug(cow_String& out, bool withSuboptions) const;
     bool quotesItemsWithBlanks() const;

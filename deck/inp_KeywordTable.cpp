@@ -10,7 +10,8 @@ inp_KeywordTable::inp_KeywordTable() {
     for (inp_KeywordTableRow const* row = inp_keywordTableRows; row->name; ++row) {
         cow_List<int> suboptions;
         if (row->suboptions)
-            for (inp_KeywordEnm const* sub = row->suboptions; *sub != inp_kw_UndefinedKeyword; ++sub)
+            for (inp_KeywordEnm const* sub = row->suboptions; *sub != inp_kw_UndefinedKeyword;
+                 ++sub)
                 suboptions.Append(*sub);
         m_suboptionMap.Insert(row->keyword, suboptions);
         m_enumMap.Insert(cow_String(row->name), row->keyword);
@@ -45,7 +46,9 @@ inp_KeywordEnm inp_KeywordTable::Enum(cow_String const& name) const {
     }
 }
 
-cow_String inp_KeywordTable::Name(inp_KeywordEnm keyword) const { return m_nameMap.ConstGet(keyword); }
+cow_String inp_KeywordTable::Name(inp_KeywordEnm keyword) const {
+    return m_nameMap.ConstGet(keyword);
+}
 
 cow_List<int> const& inp_KeywordTable::Suboptions(int const& keyword) const {
     return m_suboptionMap.ConstGet(keyword);
@@ -91,9 +94,13 @@ cow_List<int> inp_KeywordTable::ParentKeywords(inp_KeywordEnm keyword) const {
     return parents;
 }
 
-cow_List<int> inp_KeywordTable::PartSuboptions() const { return AllKeywordsBelow(inp_kw_Part); }
+cow_List<int> inp_KeywordTable::PartSuboptions() const {
+    return AllKeywordsBelow(inp_kw_Part);
+}
 
-cow_List<int> inp_KeywordTable::InstanceSuboptions() const { return AllKeywordsBelow(inp_kw_Instance); }
+cow_List<int> inp_KeywordTable::InstanceSuboptions() const {
+    return AllKeywordsBelow(inp_kw_Instance);
+}
 
 cow_List<int> inp_KeywordTable::directSuboptionsWithout(int keyword, int excluded) const {
     cow_List<int> result;

@@ -14,7 +14,7 @@
 #include "support/thr_Singleton.h"
 
 class inp_KeywordTable : public thr_ThreadSingleton<inp_KeywordTable> {
-public:
+  public:
     inp_KeywordTable();
 
     // The exact name, or the one name that `name` abbreviates. Throws
@@ -50,11 +50,11 @@ public:
     // Ends this thread's instance; the next use builds a new one.
     static int Finalize();
 
-private:
+  private:
     void appendBelow(int keyword, cow_List<int>& result) const;
     cow_List<int> directSuboptionsWithout(int keyword, int excluded) const;
 
-    cow_Map<int, cow_List<int>> m_suboptionMap;        // enumerator to suboptions
-    cow_Map<cow_String, inp_KeywordEnm> m_enumMap;     // name to enumerator
-    cow_Map<int, cow_String> m_nameMap;                // enumerator to name
+    cow_Map<int, cow_List<int>> m_suboptionMap;     // enumerator to suboptions
+    cow_Map<cow_String, inp_KeywordEnm> m_enumMap;  // name to enumerator
+    cow_Map<int, cow_String> m_nameMap;             // enumerator to name
 };

@@ -8,524 +8,850 @@
 namespace {
 
 // Each list ends with the zero enumerator.
-constexpr inp_KeywordEnm k_Amplitude[] = {
-    inp_kw_BaselineCorrection, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_AnisotropicHyperelastic[] = {
-    inp_kw_MullinsEffect, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Assembly[] = {
-    inp_kw_Adjust, inp_kw_ConnectorSection, inp_kw_Coupling, inp_kw_Dashpot, inp_kw_DisplayBody,
-    inp_kw_Distributing, inp_kw_DistributingCoupling, inp_kw_Distribution,
-    inp_kw_DomainDecomposition, inp_kw_Elset, inp_kw_EmbeddedElement, inp_kw_EndInstance,
-    inp_kw_Enrichment, inp_kw_Equation, inp_kw_Fastener, inp_kw_FastenerFailure,
-    inp_kw_FastenerProperty, inp_kw_FluidInflator, inp_kw_Foundation, inp_kw_Gap, inp_kw_HeatCap,
-    inp_kw_Include, inp_kw_Instance, inp_kw_Interface, inp_kw_Kinematic, inp_kw_KinematicCoupling,
-    inp_kw_Mass, inp_kw_MassAdjust, inp_kw_Mpc, inp_kw_NonStructuralMass, inp_kw_Normal,
-    inp_kw_Nset, inp_kw_Orientation, inp_kw_IntegratedOutputSection, inp_kw_PreTensionSection,
-    inp_kw_RigidBody, inp_kw_RotaryInertia, inp_kw_ShellToSolidCoupling, inp_kw_SlideLine,
-    inp_kw_SpotWeld, inp_kw_SpotWeldInteraction, inp_kw_SpotWeldProperty, inp_kw_Spring,
-    inp_kw_Submodel, inp_kw_Surface, inp_kw_Tie, inp_kw_Transform, inp_kw_UelProperty, inp_kw_Node,
-    inp_kw_Element, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_BeamGeneralSection[] = {
-    inp_kw_Axial, inp_kw_BeamAddedInertia, inp_kw_BeamFluidInertia, inp_kw_BeamSectionOffset,
-    inp_kw_Centroid, inp_kw_Damping, inp_kw_M1, inp_kw_M2, inp_kw_SectionPoints, inp_kw_ShearCenter,
-    inp_kw_ThermalExpansion, inp_kw_Torque, inp_kw_TransverseShearStiffness, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_BeamSection[] = {
-    inp_kw_BeamAddedInertia, inp_kw_BeamFluidInertia, inp_kw_DesignVariation,
-    inp_kw_TransverseShearStiffness, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_BeamSectionGenerate[] = {
-    inp_kw_SectionOrigin, inp_kw_SectionPoints, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Biaxial[] = {
-    inp_kw_LoadingData, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_BrittleCracking[] = {
-    inp_kw_BrittleFailure, inp_kw_BrittleShear, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_CapPlasticity[] = {
-    inp_kw_CapCreep, inp_kw_CapHardening, inp_kw_UndefinedKeyword
-};
+constexpr inp_KeywordEnm k_Amplitude[] = {inp_kw_BaselineCorrection, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_AnisotropicHyperelastic[] = {inp_kw_MullinsEffect,
+                                                        inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Assembly[] = {inp_kw_Adjust,
+                                         inp_kw_ConnectorSection,
+                                         inp_kw_Coupling,
+                                         inp_kw_Dashpot,
+                                         inp_kw_DisplayBody,
+                                         inp_kw_Distributing,
+                                         inp_kw_DistributingCoupling,
+                                         inp_kw_Distribution,
+                                         inp_kw_DomainDecomposition,
+                                         inp_kw_Elset,
+                                         inp_kw_EmbeddedElement,
+                                         inp_kw_EndInstance,
+                                         inp_kw_Enrichment,
+                                         inp_kw_Equation,
+                                         inp_kw_Fastener,
+                                         inp_kw_FastenerFailure,
+                                         inp_kw_FastenerProperty,
+                                         inp_kw_FluidInflator,
+                                         inp_kw_Foundation,
+                                         inp_kw_Gap,
+                                         inp_kw_HeatCap,
+                                         inp_kw_Include,
+                                         inp_kw_Instance,
+                                         inp_kw_Interface,
+                                         inp_kw_Kinematic,
+                                         inp_kw_KinematicCoupling,
+                                         inp_kw_Mass,
+                                         inp_kw_MassAdjust,
+                                         inp_kw_Mpc,
+                                         inp_kw_NonStructuralMass,
+                                         inp_kw_Normal,
+                                         inp_kw_Nset,
+                                         inp_kw_Orientation,
+                                         inp_kw_IntegratedOutputSection,
+                                         inp_kw_PreTensionSection,
+                                         inp_kw_RigidBody,
+                                         inp_kw_RotaryInertia,
+                                         inp_kw_ShellToSolidCoupling,
+                                         inp_kw_SlideLine,
+                                         inp_kw_SpotWeld,
+                                         inp_kw_SpotWeldInteraction,
+                                         inp_kw_SpotWeldProperty,
+                                         inp_kw_Spring,
+                                         inp_kw_Submodel,
+                                         inp_kw_Surface,
+                                         inp_kw_Tie,
+                                         inp_kw_Transform,
+                                         inp_kw_UelProperty,
+                                         inp_kw_Node,
+                                         inp_kw_Element,
+                                         inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_BeamGeneralSection[] = {inp_kw_Axial,
+                                                   inp_kw_BeamAddedInertia,
+                                                   inp_kw_BeamFluidInertia,
+                                                   inp_kw_BeamSectionOffset,
+                                                   inp_kw_Centroid,
+                                                   inp_kw_Damping,
+                                                   inp_kw_M1,
+                                                   inp_kw_M2,
+                                                   inp_kw_SectionPoints,
+                                                   inp_kw_ShearCenter,
+                                                   inp_kw_ThermalExpansion,
+                                                   inp_kw_Torque,
+                                                   inp_kw_TransverseShearStiffness,
+                                                   inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_BeamSection[] = {inp_kw_BeamAddedInertia, inp_kw_BeamFluidInertia,
+                                            inp_kw_DesignVariation, inp_kw_TransverseShearStiffness,
+                                            inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_BeamSectionGenerate[] = {inp_kw_SectionOrigin, inp_kw_SectionPoints,
+                                                    inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Biaxial[] = {inp_kw_LoadingData, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_BrittleCracking[] = {inp_kw_BrittleFailure, inp_kw_BrittleShear,
+                                                inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_CapPlasticity[] = {inp_kw_CapCreep, inp_kw_CapHardening,
+                                              inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_CastIronPlasticity[] = {
-    inp_kw_CastIronCompressionHardening, inp_kw_CastIronTensionHardening, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Cfd[] = {
-    inp_kw_MomentumEquationSolver, inp_kw_PressureEquationSolver, inp_kw_EnergyEquationSolver,
-    inp_kw_TurbulenceEquationSolver, inp_kw_TransportEquationSolver, inp_kw_TurbulenceModel,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ChangeFriction[] = {
-    inp_kw_Friction, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ClayPlasticity[] = {
-    inp_kw_ClayHardening, inp_kw_Potential, inp_kw_SofteningRegularization, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Cload[] = {
-    inp_kw_DesignVariation, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_CohesiveSection[] = {
-    inp_kw_TransverseShearStiffness, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Concrete[] = {
-    inp_kw_FailureRatios, inp_kw_ShearRetention, inp_kw_TensionStiffening, inp_kw_UndefinedKeyword
-};
+    inp_kw_CastIronCompressionHardening, inp_kw_CastIronTensionHardening, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Cfd[] = {inp_kw_MomentumEquationSolver,  inp_kw_PressureEquationSolver,
+                                    inp_kw_EnergyEquationSolver,    inp_kw_TurbulenceEquationSolver,
+                                    inp_kw_TransportEquationSolver, inp_kw_TurbulenceModel,
+                                    inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ChangeFriction[] = {inp_kw_Friction, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ClayPlasticity[] = {inp_kw_ClayHardening, inp_kw_Potential,
+                                               inp_kw_SofteningRegularization,
+                                               inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Cload[] = {inp_kw_DesignVariation, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_CohesiveSection[] = {inp_kw_TransverseShearStiffness,
+                                                inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Concrete[] = {inp_kw_FailureRatios, inp_kw_ShearRetention,
+                                         inp_kw_TensionStiffening, inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_ConcreteDamagedPlasticity[] = {
     inp_kw_ConcreteCompressionDamage, inp_kw_ConcreteCompressionHardening,
-    inp_kw_ConcreteTensionDamage, inp_kw_ConcreteTensionStiffening, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ConnectorBehavior[] = {
-    inp_kw_ConnectorConstitutiveReference, inp_kw_ConnectorDamageInitiation,
-    inp_kw_ConnectorDamping, inp_kw_ConnectorDerivedComponent, inp_kw_ConnectorElasticity,
-    inp_kw_ConnectorFailure, inp_kw_ConnectorFriction, inp_kw_ConnectorLock,
-    inp_kw_ConnectorPlasticity, inp_kw_ConnectorStop, inp_kw_ConnectorUniaxialBehavior,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ConnectorDamageEvolution[] = {
-    inp_kw_ConnectorPotential, inp_kw_UndefinedKeyword
-};
+    inp_kw_ConcreteTensionDamage, inp_kw_ConcreteTensionStiffening, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ConnectorBehavior[] = {inp_kw_ConnectorConstitutiveReference,
+                                                  inp_kw_ConnectorDamageInitiation,
+                                                  inp_kw_ConnectorDamping,
+                                                  inp_kw_ConnectorDerivedComponent,
+                                                  inp_kw_ConnectorElasticity,
+                                                  inp_kw_ConnectorFailure,
+                                                  inp_kw_ConnectorFriction,
+                                                  inp_kw_ConnectorLock,
+                                                  inp_kw_ConnectorPlasticity,
+                                                  inp_kw_ConnectorStop,
+                                                  inp_kw_ConnectorUniaxialBehavior,
+                                                  inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ConnectorDamageEvolution[] = {inp_kw_ConnectorPotential,
+                                                         inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_ConnectorDamageInitiation[] = {
-    inp_kw_ConnectorPotential, inp_kw_ConnectorDamageEvolution, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ConnectorFriction[] = {
-    inp_kw_ConnectorContactForce, inp_kw_Friction, inp_kw_ConnectorPotential,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ConnectorLock[] = {
-    inp_kw_ConnectorPotential, inp_kw_UndefinedKeyword
-};
+    inp_kw_ConnectorPotential, inp_kw_ConnectorDamageEvolution, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ConnectorFriction[] = {inp_kw_ConnectorContactForce, inp_kw_Friction,
+                                                  inp_kw_ConnectorPotential,
+                                                  inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ConnectorLock[] = {inp_kw_ConnectorPotential, inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_ConnectorPlasticity[] = {
-    inp_kw_ConnectorHardening, inp_kw_ConnectorPotential, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ConnectorStop[] = {
-    inp_kw_ConnectorPotential, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ConnectorUniaxialBehavior[] = {
-    inp_kw_LoadingData, inp_kw_UndefinedKeyword
-};
+    inp_kw_ConnectorHardening, inp_kw_ConnectorPotential, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ConnectorStop[] = {inp_kw_ConnectorPotential, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ConnectorUniaxialBehavior[] = {inp_kw_LoadingData,
+                                                          inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_Contact[] = {
-    inp_kw_ContactClearanceAssignment, inp_kw_ContactControlsAssignment, inp_kw_ContactExclusions,
-    inp_kw_ContactFormulation, inp_kw_ContactInclusions, inp_kw_ContactInitializationAssignment,
-    inp_kw_ContactPropertyAssignment, inp_kw_ContactStabilization, inp_kw_SurfacePropertyAssignment,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_CoSimulation[] = {
-    inp_kw_CoSimulationRegion, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Coupling[] = {
-    inp_kw_Kinematic, inp_kw_Distributing, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Creep[] = {
-    inp_kw_Ornl, inp_kw_Potential, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_CrushableFoam[] = {
-    inp_kw_CrushableFoamHardening, inp_kw_RateDependent, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_DamageInitiation[] = {
-    inp_kw_DamageEvolution, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_DamageEvolution[] = {
-    inp_kw_DamageStabilization, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Debond[] = {
-    inp_kw_FractureCriterion, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Density[] = {
-    inp_kw_DesignVariation, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Diffusivity[] = {
-    inp_kw_Kappa, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_DirectCyclic[] = {
-    inp_kw_TimePoints, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_DiscreteInteractionProperty[] = {
-    inp_kw_CohesiveBehavior, inp_kw_ConnectorConstitutiveReference,
-    inp_kw_ConnectorDamageInitiation, inp_kw_ConnectorDamping, inp_kw_ConnectorDerivedComponent,
-    inp_kw_ConnectorElasticity, inp_kw_ConnectorFailure, inp_kw_ConnectorFriction,
-    inp_kw_ConnectorLock, inp_kw_ConnectorPlasticity, inp_kw_ConnectorStop,
-    inp_kw_ConnectorUniaxialBehavior, inp_kw_ContactDamping, inp_kw_DamageInitiation,
-    inp_kw_Friction, inp_kw_SurfaceBehavior, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_DruckerPrager[] = {
-    inp_kw_DruckerPragerHardening, inp_kw_DruckerPragerCreep, inp_kw_RateDependent,
-    inp_kw_TriaxialTestData, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Elastic[] = {
-    inp_kw_DesignVariation, inp_kw_NoCompression, inp_kw_NoTension, inp_kw_UndefinedKeyword
-};
+    inp_kw_ContactClearanceAssignment, inp_kw_ContactControlsAssignment,
+    inp_kw_ContactExclusions,          inp_kw_ContactFormulation,
+    inp_kw_ContactInclusions,          inp_kw_ContactInitializationAssignment,
+    inp_kw_ContactPropertyAssignment,  inp_kw_ContactStabilization,
+    inp_kw_SurfacePropertyAssignment,  inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_CoSimulation[] = {inp_kw_CoSimulationRegion, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Coupling[] = {inp_kw_Kinematic, inp_kw_Distributing,
+                                         inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Creep[] = {inp_kw_Ornl, inp_kw_Potential, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_CrushableFoam[] = {inp_kw_CrushableFoamHardening, inp_kw_RateDependent,
+                                              inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_DamageInitiation[] = {inp_kw_DamageEvolution, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_DamageEvolution[] = {inp_kw_DamageStabilization,
+                                                inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Debond[] = {inp_kw_FractureCriterion, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Density[] = {inp_kw_DesignVariation, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Diffusivity[] = {inp_kw_Kappa, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_DirectCyclic[] = {inp_kw_TimePoints, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_DiscreteInteractionProperty[] = {inp_kw_CohesiveBehavior,
+                                                            inp_kw_ConnectorConstitutiveReference,
+                                                            inp_kw_ConnectorDamageInitiation,
+                                                            inp_kw_ConnectorDamping,
+                                                            inp_kw_ConnectorDerivedComponent,
+                                                            inp_kw_ConnectorElasticity,
+                                                            inp_kw_ConnectorFailure,
+                                                            inp_kw_ConnectorFriction,
+                                                            inp_kw_ConnectorLock,
+                                                            inp_kw_ConnectorPlasticity,
+                                                            inp_kw_ConnectorStop,
+                                                            inp_kw_ConnectorUniaxialBehavior,
+                                                            inp_kw_ContactDamping,
+                                                            inp_kw_DamageInitiation,
+                                                            inp_kw_Friction,
+                                                            inp_kw_SurfaceBehavior,
+                                                            inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_DruckerPrager[] = {inp_kw_DruckerPragerHardening,
+                                              inp_kw_DruckerPragerCreep, inp_kw_RateDependent,
+                                              inp_kw_TriaxialTestData, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Elastic[] = {inp_kw_DesignVariation, inp_kw_NoCompression,
+                                        inp_kw_NoTension, inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_Eos[] = {
-    inp_kw_EosShear, inp_kw_DetonationPoint, inp_kw_ReactionRate, inp_kw_TensileFailure,
-    inp_kw_EosCompaction, inp_kw_GasSpecificHeat, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_EosShear[] = {
-    inp_kw_Trs, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Epjoint[] = {
-    inp_kw_JointElasticity, inp_kw_JointPlasticity, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_EulerianInflatorProperty[] = {
-    inp_kw_EulerianInflatorMixture, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ExtremeValue[] = {
-    inp_kw_ExtremeElementValue, inp_kw_ExtremeNodeValue, inp_kw_UndefinedKeyword
-};
+    inp_kw_EosShear,      inp_kw_DetonationPoint, inp_kw_ReactionRate,    inp_kw_TensileFailure,
+    inp_kw_EosCompaction, inp_kw_GasSpecificHeat, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_EosShear[] = {inp_kw_Trs, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Epjoint[] = {inp_kw_JointElasticity, inp_kw_JointPlasticity,
+                                        inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_EulerianInflatorProperty[] = {inp_kw_EulerianInflatorMixture,
+                                                         inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ExtremeValue[] = {inp_kw_ExtremeElementValue, inp_kw_ExtremeNodeValue,
+                                             inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_Fabric[] = {
     inp_kw_ShearTestData, inp_kw_BiaxialTestData, inp_kw_UniaxialTestData, inp_kw_Uniaxial,
-    inp_kw_Biaxial, inp_kw_Shear, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_FastenerProperty[] = {
-    inp_kw_FastenerFailure, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_FileOutput[] = {
-    inp_kw_ElFile, inp_kw_EnergyFile, inp_kw_NodeFile, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_FluidBehavior[] = {
-    inp_kw_FluidBulkModulus, inp_kw_Capacity, inp_kw_FluidDensity, inp_kw_FluidExpansion,
-    inp_kw_MolecularWeight, inp_kw_UndefinedKeyword
-};
+    inp_kw_Biaxial,       inp_kw_Shear,           inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_FastenerProperty[] = {inp_kw_FastenerFailure, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_FileOutput[] = {inp_kw_ElFile, inp_kw_EnergyFile, inp_kw_NodeFile,
+                                           inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_FluidBehavior[] = {inp_kw_FluidBulkModulus, inp_kw_Capacity,
+                                              inp_kw_FluidDensity,     inp_kw_FluidExpansion,
+                                              inp_kw_MolecularWeight,  inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_FluidInflatorProperty[] = {
-    inp_kw_FluidInflatorMixture, inp_kw_EulerianInflatorMixture, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_FluidProperty[] = {
-    inp_kw_FluidBulkModulus, inp_kw_FluidDensity, inp_kw_FluidExpansion, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_FluidPipeSection[] = {
-    inp_kw_FluidPipeFlowLoss, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_FluidPipeConnectorSection[] = {
-    inp_kw_FluidPipeConnectorLoss, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Foam[] = {
-    inp_kw_FoamHardening, inp_kw_RateDependent, inp_kw_UndefinedKeyword
-};
+    inp_kw_FluidInflatorMixture, inp_kw_EulerianInflatorMixture, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_FluidProperty[] = {inp_kw_FluidBulkModulus, inp_kw_FluidDensity,
+                                              inp_kw_FluidExpansion, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_FluidPipeSection[] = {inp_kw_FluidPipeFlowLoss, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_FluidPipeConnectorSection[] = {inp_kw_FluidPipeConnectorLoss,
+                                                          inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Foam[] = {inp_kw_FoamHardening, inp_kw_RateDependent,
+                                     inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_FrameSection[] = {
-    inp_kw_BucklingEnvelope, inp_kw_BucklingLength, inp_kw_BucklingReductionFactors,
-    inp_kw_PlasticAxial, inp_kw_PlasticM1, inp_kw_PlasticM2, inp_kw_PlasticTorque,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Friction[] = {
-    inp_kw_DesignVariation, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Gap[] = {
-    inp_kw_ContactDamping, inp_kw_ContactPermeability, inp_kw_GapConductance,
-    inp_kw_GapHeatGeneration, inp_kw_GapRadiation, inp_kw_Friction, inp_kw_SurfaceBehavior,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_GasketBehavior[] = {
-    inp_kw_Creep, inp_kw_Depvar, inp_kw_Expansion, inp_kw_GasketContactArea,
-    inp_kw_GasketElasticity, inp_kw_GasketThicknessBehavior, inp_kw_UserOutputVariables,
-    inp_kw_Viscoelastic, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_GasketSection[] = {
-    inp_kw_DesignVariation, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_HeatTransfer[] = {
-    inp_kw_EnergyEquationSolver, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Hyperelastic[] = {
-    inp_kw_BiaxialTestData, inp_kw_DesignVariation, inp_kw_Hysteresis, inp_kw_MullinsEffect,
-    inp_kw_PlanarTestData, inp_kw_UniaxialTestData, inp_kw_VolumetricTestData,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Hyperfoam[] = {
-    inp_kw_BiaxialTestData, inp_kw_DesignVariation, inp_kw_MullinsEffect, inp_kw_PlanarTestData,
-    inp_kw_SimpleShearTestData, inp_kw_UniaxialTestData, inp_kw_VolumetricTestData,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Import[] = {
-    inp_kw_ImportControls, inp_kw_ImportElset, inp_kw_ImportNset, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_IncidentWave[] = {
-    inp_kw_IncidentWaveReflection, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_IncidentWaveInteraction[] = {
-    inp_kw_IncidentWaveReflection, inp_kw_UndefinedKeyword
-};
+    inp_kw_BucklingEnvelope, inp_kw_BucklingLength,  inp_kw_BucklingReductionFactors,
+    inp_kw_PlasticAxial,     inp_kw_PlasticM1,       inp_kw_PlasticM2,
+    inp_kw_PlasticTorque,    inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Friction[] = {inp_kw_DesignVariation, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Gap[] = {inp_kw_ContactDamping,  inp_kw_ContactPermeability,
+                                    inp_kw_GapConductance,  inp_kw_GapHeatGeneration,
+                                    inp_kw_GapRadiation,    inp_kw_Friction,
+                                    inp_kw_SurfaceBehavior, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_GasketBehavior[] = {inp_kw_Creep,
+                                               inp_kw_Depvar,
+                                               inp_kw_Expansion,
+                                               inp_kw_GasketContactArea,
+                                               inp_kw_GasketElasticity,
+                                               inp_kw_GasketThicknessBehavior,
+                                               inp_kw_UserOutputVariables,
+                                               inp_kw_Viscoelastic,
+                                               inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_GasketSection[] = {inp_kw_DesignVariation, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_HeatTransfer[] = {inp_kw_EnergyEquationSolver, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Hyperelastic[] = {inp_kw_BiaxialTestData,    inp_kw_DesignVariation,
+                                             inp_kw_Hysteresis,         inp_kw_MullinsEffect,
+                                             inp_kw_PlanarTestData,     inp_kw_UniaxialTestData,
+                                             inp_kw_VolumetricTestData, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Hyperfoam[] = {inp_kw_BiaxialTestData,     inp_kw_DesignVariation,
+                                          inp_kw_MullinsEffect,       inp_kw_PlanarTestData,
+                                          inp_kw_SimpleShearTestData, inp_kw_UniaxialTestData,
+                                          inp_kw_VolumetricTestData,  inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Import[] = {inp_kw_ImportControls, inp_kw_ImportElset, inp_kw_ImportNset,
+                                       inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_IncidentWave[] = {inp_kw_IncidentWaveReflection,
+                                             inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_IncidentWaveInteraction[] = {inp_kw_IncidentWaveReflection,
+                                                        inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_IncidentWaveInteractionProperty[] = {
-    inp_kw_UndexChargeProperty, inp_kw_ConwepChargeProperty, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_IncidentWaveProperty[] = {
-    inp_kw_IncidentWaveFluidProperty, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Instance[] = {
-    inp_kw_Adjust, inp_kw_BeamGeneralSection, inp_kw_BeamSection, inp_kw_Centroid,
-    inp_kw_CohesiveSection, inp_kw_ConnectorSection, inp_kw_Coupling, inp_kw_Damping,
-    inp_kw_Dashpot, inp_kw_DesignShapeVariation, inp_kw_DiscreteSection, inp_kw_Distributing,
-    inp_kw_DistributingCoupling, inp_kw_Distribution, inp_kw_DragChain, inp_kw_Elcopy,
-    inp_kw_Element, inp_kw_Elgen, inp_kw_Elset, inp_kw_EmbeddedElement, inp_kw_Enrichment,
-    inp_kw_Epjoint, inp_kw_Equation, inp_kw_EulerianInflatorProperty, inp_kw_EulerianSection,
-    inp_kw_Fastener, inp_kw_FastenerFailure, inp_kw_FastenerProperty, inp_kw_FluidInflator,
-    inp_kw_FluidInflatorProperty, inp_kw_FluidProperty, inp_kw_FluidLink, inp_kw_FluidSection,
-    inp_kw_Foundation, inp_kw_FrameSection, inp_kw_FluidPipeSection, inp_kw_FluidPipeFlowLoss,
-    inp_kw_FluidPipeConnectorSection, inp_kw_FluidPipeConnectorLoss, inp_kw_Gap,
-    inp_kw_GasketSection, inp_kw_HeatCap, inp_kw_Import, inp_kw_Include, inp_kw_Interface,
-    inp_kw_Its, inp_kw_Joint, inp_kw_Kinematic, inp_kw_KinematicCoupling, inp_kw_Mass, inp_kw_Mpc,
-    inp_kw_Ncopy, inp_kw_Nfill, inp_kw_Ngen, inp_kw_Nmap, inp_kw_NodalEnergyRate,
-    inp_kw_NodalThickness, inp_kw_Node, inp_kw_NonStructuralMass, inp_kw_Nset, inp_kw_Normal,
-    inp_kw_MembraneSection, inp_kw_Orientation, inp_kw_IntegratedOutputSection,
-    inp_kw_ParameterShapeVariation, inp_kw_ParticleGenerator, inp_kw_ParticleGeneratorMixture,
-    inp_kw_ParticleGeneratorInlet, inp_kw_PipeSoilInteraction, inp_kw_PreTensionSection,
-    inp_kw_ProbabilityDensityFunction, inp_kw_Rebar, inp_kw_RebarLayer, inp_kw_Release,
-    inp_kw_RigidBody, inp_kw_RigidSurface, inp_kw_RotaryInertia, inp_kw_SolidSection,
-    inp_kw_ShellGeneralSection, inp_kw_ShellSection, inp_kw_ShellToSolidCoupling, inp_kw_SpotWeld,
-    inp_kw_SpotWeldInteraction, inp_kw_SpotWeldProperty, inp_kw_Spring, inp_kw_Submodel,
-    inp_kw_Surface, inp_kw_SurfaceFlaw, inp_kw_SurfaceSection, inp_kw_System, inp_kw_Tie,
-    inp_kw_Transform, inp_kw_UelProperty, inp_kw_UserElement, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Interface[] = {
-    inp_kw_AsymmetricAxisymmetric, inp_kw_ContactDamping, inp_kw_ContactPermeability,
-    inp_kw_Friction, inp_kw_GapConductance, inp_kw_GapHeatGeneration, inp_kw_GapRadiation,
-    inp_kw_SurfaceBehavior, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Its[] = {
-    inp_kw_Dashpot, inp_kw_Friction, inp_kw_Spring, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Joint[] = {
-    inp_kw_Dashpot, inp_kw_Spring, inp_kw_UndefinedKeyword
-};
+    inp_kw_UndexChargeProperty, inp_kw_ConwepChargeProperty, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_IncidentWaveProperty[] = {inp_kw_IncidentWaveFluidProperty,
+                                                     inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Instance[] = {inp_kw_Adjust,
+                                         inp_kw_BeamGeneralSection,
+                                         inp_kw_BeamSection,
+                                         inp_kw_Centroid,
+                                         inp_kw_CohesiveSection,
+                                         inp_kw_ConnectorSection,
+                                         inp_kw_Coupling,
+                                         inp_kw_Damping,
+                                         inp_kw_Dashpot,
+                                         inp_kw_DesignShapeVariation,
+                                         inp_kw_DiscreteSection,
+                                         inp_kw_Distributing,
+                                         inp_kw_DistributingCoupling,
+                                         inp_kw_Distribution,
+                                         inp_kw_DragChain,
+                                         inp_kw_Elcopy,
+                                         inp_kw_Element,
+                                         inp_kw_Elgen,
+                                         inp_kw_Elset,
+                                         inp_kw_EmbeddedElement,
+                                         inp_kw_Enrichment,
+                                         inp_kw_Epjoint,
+                                         inp_kw_Equation,
+                                         inp_kw_EulerianInflatorProperty,
+                                         inp_kw_EulerianSection,
+                                         inp_kw_Fastener,
+                                         inp_kw_FastenerFailure,
+                                         inp_kw_FastenerProperty,
+                                         inp_kw_FluidInflator,
+                                         inp_kw_FluidInflatorProperty,
+                                         inp_kw_FluidProperty,
+                                         inp_kw_FluidLink,
+                                         inp_kw_FluidSection,
+                                         inp_kw_Foundation,
+                                         inp_kw_FrameSection,
+                                         inp_kw_FluidPipeSection,
+                                         inp_kw_FluidPipeFlowLoss,
+                                         inp_kw_FluidPipeConnectorSection,
+                                         inp_kw_FluidPipeConnectorLoss,
+                                         inp_kw_Gap,
+                                         inp_kw_GasketSection,
+                                         inp_kw_HeatCap,
+                                         inp_kw_Import,
+                                         inp_kw_Include,
+                                         inp_kw_Interface,
+                                         inp_kw_Its,
+                                         inp_kw_Joint,
+                                         inp_kw_Kinematic,
+                                         inp_kw_KinematicCoupling,
+                                         inp_kw_Mass,
+                                         inp_kw_Mpc,
+                                         inp_kw_Ncopy,
+                                         inp_kw_Nfill,
+                                         inp_kw_Ngen,
+                                         inp_kw_Nmap,
+                                         inp_kw_NodalEnergyRate,
+                                         inp_kw_NodalThickness,
+                                         inp_kw_Node,
+                                         inp_kw_NonStructuralMass,
+                                         inp_kw_Nset,
+                                         inp_kw_Normal,
+                                         inp_kw_MembraneSection,
+                                         inp_kw_Orientation,
+                                         inp_kw_IntegratedOutputSection,
+                                         inp_kw_ParameterShapeVariation,
+                                         inp_kw_ParticleGenerator,
+                                         inp_kw_ParticleGeneratorMixture,
+                                         inp_kw_ParticleGeneratorInlet,
+                                         inp_kw_PipeSoilInteraction,
+                                         inp_kw_PreTensionSection,
+                                         inp_kw_ProbabilityDensityFunction,
+                                         inp_kw_Rebar,
+                                         inp_kw_RebarLayer,
+                                         inp_kw_Release,
+                                         inp_kw_RigidBody,
+                                         inp_kw_RigidSurface,
+                                         inp_kw_RotaryInertia,
+                                         inp_kw_SolidSection,
+                                         inp_kw_ShellGeneralSection,
+                                         inp_kw_ShellSection,
+                                         inp_kw_ShellToSolidCoupling,
+                                         inp_kw_SpotWeld,
+                                         inp_kw_SpotWeldInteraction,
+                                         inp_kw_SpotWeldProperty,
+                                         inp_kw_Spring,
+                                         inp_kw_Submodel,
+                                         inp_kw_Surface,
+                                         inp_kw_SurfaceFlaw,
+                                         inp_kw_SurfaceSection,
+                                         inp_kw_System,
+                                         inp_kw_Tie,
+                                         inp_kw_Transform,
+                                         inp_kw_UelProperty,
+                                         inp_kw_UserElement,
+                                         inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Interface[] = {inp_kw_AsymmetricAxisymmetric, inp_kw_ContactDamping,
+                                          inp_kw_ContactPermeability,    inp_kw_Friction,
+                                          inp_kw_GapConductance,         inp_kw_GapHeatGeneration,
+                                          inp_kw_GapRadiation,           inp_kw_SurfaceBehavior,
+                                          inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Its[] = {inp_kw_Dashpot, inp_kw_Friction, inp_kw_Spring,
+                                    inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Joint[] = {inp_kw_Dashpot, inp_kw_Spring, inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_LoadCase[] = {
-    inp_kw_BaseMotion, inp_kw_ConnectorLoad, inp_kw_ConnectorMotion, inp_kw_Boundary, inp_kw_Cload,
-    inp_kw_Dload, inp_kw_Dsload, inp_kw_InertiaRelief, inp_kw_Sload, inp_kw_Temperature,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_LoadingData[] = {
-    inp_kw_UnloadingData, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_LowDensityFoam[] = {
-    inp_kw_UniaxialTestData, inp_kw_VolumetricTestData, inp_kw_UndefinedKeyword
-};
+    inp_kw_BaseMotion, inp_kw_ConnectorLoad, inp_kw_ConnectorMotion, inp_kw_Boundary,
+    inp_kw_Cload,      inp_kw_Dload,         inp_kw_Dsload,          inp_kw_InertiaRelief,
+    inp_kw_Sload,      inp_kw_Temperature,   inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_LoadingData[] = {inp_kw_UnloadingData, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_LowDensityFoam[] = {inp_kw_UniaxialTestData, inp_kw_VolumetricTestData,
+                                               inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_MagneticPermeability[] = {
-    inp_kw_NonlinearBH, inp_kw_PermanentMagnetization, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Material[] = {
-    inp_kw_AnisotropicHyperelastic, inp_kw_AnnealTemperature, inp_kw_AcousticMedium,
-    inp_kw_BrittleCracking, inp_kw_CapPlasticity, inp_kw_CastIronPlasticity,
-    inp_kw_CharacteristicLength, inp_kw_ClayPlasticity, inp_kw_Concrete,
-    inp_kw_ConcreteDamagedPlasticity, inp_kw_Conductivity, inp_kw_Creep, inp_kw_CrushStress,
-    inp_kw_CrushStressVelocityFactor, inp_kw_CrushableFoam, inp_kw_DamageInitiation, inp_kw_Damping,
-    inp_kw_DeformationPlasticity, inp_kw_Density, inp_kw_Depvar, inp_kw_Dielectric,
-    inp_kw_Diffusivity, inp_kw_DruckerPrager, inp_kw_Elastic, inp_kw_ElectricalConductivity,
-    inp_kw_Eos, inp_kw_Expansion, inp_kw_Fabric, inp_kw_FailStrain, inp_kw_FailStress,
-    inp_kw_Failure, inp_kw_FluidLeakoff, inp_kw_Foam, inp_kw_GapFlow, inp_kw_Gel,
-    inp_kw_HeatGeneration, inp_kw_Hyperelastic, inp_kw_Hyperfoam, inp_kw_Hypoelastic,
-    inp_kw_Include, inp_kw_InelasticHeatFraction, inp_kw_JointedMaterial, inp_kw_JouleHeatFraction,
-    inp_kw_LatentHeat, inp_kw_LowDensityFoam, inp_kw_MagneticPermeability, inp_kw_MohrCoulomb,
-    inp_kw_MoistureSwelling, inp_kw_NonlinearBH, inp_kw_PermanentMagnetization, inp_kw_Permeability,
-    inp_kw_Piezoelectric, inp_kw_Plastic, inp_kw_PorousBulkModuli, inp_kw_PorousElastic,
-    inp_kw_PorousMetalPlasticity, inp_kw_Solubility, inp_kw_Sorption, inp_kw_SpecificHeat,
-    inp_kw_Swelling, inp_kw_UserDefinedField, inp_kw_UserMaterial, inp_kw_UserOutputVariables,
-    inp_kw_Viscoelastic, inp_kw_Viscosity, inp_kw_Viscous, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_MatrixGenerate[] = {
-    inp_kw_MatrixOutput, inp_kw_Impedance, inp_kw_Simpedance, inp_kw_MatrixCheck,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_MembraneSection[] = {
-    inp_kw_DesignVariation, inp_kw_HourglassStiffness, inp_kw_RebarLayer, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Model[] = {
-    inp_kw_AcousticWaveFormulation, inp_kw_AdaptiveMeshRefinement, inp_kw_Aqua, inp_kw_Amplitude,
-    inp_kw_Assembly, inp_kw_Boundary, inp_kw_Capacity, inp_kw_CavityDefinition, inp_kw_Clearance,
-    inp_kw_ConnectorBehavior, inp_kw_ConnectorMotion, inp_kw_ConstraintControls, inp_kw_Contact,
-    inp_kw_ContactClearance, inp_kw_ContactInitializationData, inp_kw_ContactPair,
-    inp_kw_CyclicSymmetryModel, inp_kw_DesignParameter, inp_kw_DesignValue, inp_kw_Diagnostics,
-    inp_kw_DiscreteInteraction, inp_kw_DiscreteInteractionProperty, inp_kw_Distribution,
-    inp_kw_DistributionTable, inp_kw_DsaControls, inp_kw_Elset, inp_kw_EndAssembly, inp_kw_EndPart,
-    inp_kw_EndStep, inp_kw_Fastener, inp_kw_FastenerFailure, inp_kw_FastenerProperty,
-    inp_kw_FileFormat, inp_kw_FilmProperty, inp_kw_Filter, inp_kw_FluidBehavior,
-    inp_kw_FluidBulkModulus, inp_kw_FluidCavity, inp_kw_FluidDensity, inp_kw_FluidExchange,
-    inp_kw_FluidExchangeProperty, inp_kw_FluidExpansion, inp_kw_Foundation, inp_kw_GasketBehavior,
-    inp_kw_Heading, inp_kw_ImpedanceProperty, inp_kw_Imperfection, inp_kw_Import,
-    inp_kw_IncidentWaveInteractionProperty, inp_kw_IncidentWaveProperty, inp_kw_Include,
-    inp_kw_InitialConditions, inp_kw_MapSolution, inp_kw_Mass, inp_kw_MassAdjust, inp_kw_Material,
-    inp_kw_MatrixAssemble, inp_kw_MatrixInput, inp_kw_MolecularWeight, inp_kw_Nset,
-    inp_kw_Parameter, inp_kw_Part, inp_kw_ParticleGenerator, inp_kw_ParticleGeneratorMixture,
-    inp_kw_ParticleGeneratorInlet, inp_kw_PeriodicMedia, inp_kw_PostOutput, inp_kw_Preprint,
-    inp_kw_ProbabilityDensityFunction, inp_kw_PsdDefinition, inp_kw_PhysicalConstants,
-    inp_kw_RadiationSymmetry, inp_kw_Restart, inp_kw_RotaryInertia, inp_kw_SectionControls,
-    inp_kw_SpatialDistribution, inp_kw_Spectrum, inp_kw_SpotWeldInteraction,
-    inp_kw_SpotWeldProperty, inp_kw_Step, inp_kw_Subcycling, inp_kw_SubstructureCopy,
-    inp_kw_SubstructureDelete, inp_kw_SubstructureDirectory, inp_kw_SubstructureProperty,
-    inp_kw_SurfaceInteraction, inp_kw_SurfaceProperty, inp_kw_SurfaceSmoothing,
-    inp_kw_SymmetricModelGeneration, inp_kw_SymmetricResultsTransfer, inp_kw_TimePoints,
-    inp_kw_UelProperty, inp_kw_UserElement, inp_kw_Wave, inp_kw_Wind, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_MohrCoulomb[] = {
-    inp_kw_MohrCoulombHardening, inp_kw_TensionCutoff, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_MoistureSwelling[] = {
-    inp_kw_Ratios, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_MullinsEffect[] = {
-    inp_kw_BiaxialTestData, inp_kw_PlanarTestData, inp_kw_UniaxialTestData, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Orientation[] = {
-    inp_kw_DesignVariation, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Output[] = {
-    inp_kw_ContactOutput, inp_kw_ElementOutput, inp_kw_EnergyOutput, inp_kw_IncrementationOutput,
-    inp_kw_ModalOutput, inp_kw_NodeOutput, inp_kw_RadiationOutput, inp_kw_IntegratedOutput,
-    inp_kw_SurfaceOutput, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Part[] = {
-    inp_kw_Adjust, inp_kw_BeamGeneralSection, inp_kw_BeamSection, inp_kw_Centroid,
-    inp_kw_CohesiveSection, inp_kw_ConnectorSection, inp_kw_Coupling, inp_kw_Damping,
-    inp_kw_Dashpot, inp_kw_DesignShapeVariation, inp_kw_DiscreteSection, inp_kw_Distributing,
-    inp_kw_DistributingCoupling, inp_kw_Distribution, inp_kw_DragChain, inp_kw_Elcopy,
-    inp_kw_Element, inp_kw_Elgen, inp_kw_Elset, inp_kw_EmbeddedElement, inp_kw_Enrichment,
-    inp_kw_Epjoint, inp_kw_Equation, inp_kw_EulerianInflatorProperty, inp_kw_EulerianSection,
-    inp_kw_Fastener, inp_kw_FastenerFailure, inp_kw_FastenerProperty, inp_kw_FluidInflator,
-    inp_kw_FluidInflatorProperty, inp_kw_FluidProperty, inp_kw_FluidLink, inp_kw_FluidSection,
-    inp_kw_Foundation, inp_kw_FrameSection, inp_kw_FluidPipeSection, inp_kw_FluidPipeFlowLoss,
-    inp_kw_FluidPipeConnectorSection, inp_kw_FluidPipeConnectorLoss, inp_kw_Gap,
-    inp_kw_GasketSection, inp_kw_HeatCap, inp_kw_Include, inp_kw_Interface, inp_kw_Its,
-    inp_kw_Joint, inp_kw_Kinematic, inp_kw_KinematicCoupling, inp_kw_Mass, inp_kw_MembraneSection,
-    inp_kw_Mpc, inp_kw_Ncopy, inp_kw_Nfill, inp_kw_Ngen, inp_kw_Nmap, inp_kw_NodalEnergyRate,
-    inp_kw_NodalThickness, inp_kw_Node, inp_kw_NonStructuralMass, inp_kw_Normal, inp_kw_Nset,
-    inp_kw_Orientation, inp_kw_IntegratedOutputSection, inp_kw_ParameterShapeVariation,
-    inp_kw_ParticleGenerator, inp_kw_ParticleGeneratorMixture, inp_kw_ParticleGeneratorInlet,
-    inp_kw_PipeSoilInteraction, inp_kw_PreTensionSection, inp_kw_ProbabilityDensityFunction,
-    inp_kw_Rebar, inp_kw_RebarLayer, inp_kw_Release, inp_kw_RigidBody, inp_kw_RigidSurface,
-    inp_kw_RotaryInertia, inp_kw_SolidSection, inp_kw_ShellGeneralSection, inp_kw_ShellSection,
-    inp_kw_ShellToSolidCoupling, inp_kw_SpotWeld, inp_kw_SpotWeldInteraction,
-    inp_kw_SpotWeldProperty, inp_kw_Spring, inp_kw_Submodel, inp_kw_Surface, inp_kw_SurfaceFlaw,
-    inp_kw_SurfaceSection, inp_kw_System, inp_kw_Tie, inp_kw_Transform, inp_kw_UelProperty,
-    inp_kw_UserElement, inp_kw_UndefinedKeyword
-};
+    inp_kw_NonlinearBH, inp_kw_PermanentMagnetization, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Material[] = {inp_kw_AnisotropicHyperelastic,
+                                         inp_kw_AnnealTemperature,
+                                         inp_kw_AcousticMedium,
+                                         inp_kw_BrittleCracking,
+                                         inp_kw_CapPlasticity,
+                                         inp_kw_CastIronPlasticity,
+                                         inp_kw_CharacteristicLength,
+                                         inp_kw_ClayPlasticity,
+                                         inp_kw_Concrete,
+                                         inp_kw_ConcreteDamagedPlasticity,
+                                         inp_kw_Conductivity,
+                                         inp_kw_Creep,
+                                         inp_kw_CrushStress,
+                                         inp_kw_CrushStressVelocityFactor,
+                                         inp_kw_CrushableFoam,
+                                         inp_kw_DamageInitiation,
+                                         inp_kw_Damping,
+                                         inp_kw_DeformationPlasticity,
+                                         inp_kw_Density,
+                                         inp_kw_Depvar,
+                                         inp_kw_Dielectric,
+                                         inp_kw_Diffusivity,
+                                         inp_kw_DruckerPrager,
+                                         inp_kw_Elastic,
+                                         inp_kw_ElectricalConductivity,
+                                         inp_kw_Eos,
+                                         inp_kw_Expansion,
+                                         inp_kw_Fabric,
+                                         inp_kw_FailStrain,
+                                         inp_kw_FailStress,
+                                         inp_kw_Failure,
+                                         inp_kw_FluidLeakoff,
+                                         inp_kw_Foam,
+                                         inp_kw_GapFlow,
+                                         inp_kw_Gel,
+                                         inp_kw_HeatGeneration,
+                                         inp_kw_Hyperelastic,
+                                         inp_kw_Hyperfoam,
+                                         inp_kw_Hypoelastic,
+                                         inp_kw_Include,
+                                         inp_kw_InelasticHeatFraction,
+                                         inp_kw_JointedMaterial,
+                                         inp_kw_JouleHeatFraction,
+                                         inp_kw_LatentHeat,
+                                         inp_kw_LowDensityFoam,
+                                         inp_kw_MagneticPermeability,
+                                         inp_kw_MohrCoulomb,
+                                         inp_kw_MoistureSwelling,
+                                         inp_kw_NonlinearBH,
+                                         inp_kw_PermanentMagnetization,
+                                         inp_kw_Permeability,
+                                         inp_kw_Piezoelectric,
+                                         inp_kw_Plastic,
+                                         inp_kw_PorousBulkModuli,
+                                         inp_kw_PorousElastic,
+                                         inp_kw_PorousMetalPlasticity,
+                                         inp_kw_Solubility,
+                                         inp_kw_Sorption,
+                                         inp_kw_SpecificHeat,
+                                         inp_kw_Swelling,
+                                         inp_kw_UserDefinedField,
+                                         inp_kw_UserMaterial,
+                                         inp_kw_UserOutputVariables,
+                                         inp_kw_Viscoelastic,
+                                         inp_kw_Viscosity,
+                                         inp_kw_Viscous,
+                                         inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_MatrixGenerate[] = {inp_kw_MatrixOutput, inp_kw_Impedance,
+                                               inp_kw_Simpedance, inp_kw_MatrixCheck,
+                                               inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_MembraneSection[] = {inp_kw_DesignVariation, inp_kw_HourglassStiffness,
+                                                inp_kw_RebarLayer, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Model[] = {inp_kw_AcousticWaveFormulation,
+                                      inp_kw_AdaptiveMeshRefinement,
+                                      inp_kw_Aqua,
+                                      inp_kw_Amplitude,
+                                      inp_kw_Assembly,
+                                      inp_kw_Boundary,
+                                      inp_kw_Capacity,
+                                      inp_kw_CavityDefinition,
+                                      inp_kw_Clearance,
+                                      inp_kw_ConnectorBehavior,
+                                      inp_kw_ConnectorMotion,
+                                      inp_kw_ConstraintControls,
+                                      inp_kw_Contact,
+                                      inp_kw_ContactClearance,
+                                      inp_kw_ContactInitializationData,
+                                      inp_kw_ContactPair,
+                                      inp_kw_CyclicSymmetryModel,
+                                      inp_kw_DesignParameter,
+                                      inp_kw_DesignValue,
+                                      inp_kw_Diagnostics,
+                                      inp_kw_DiscreteInteraction,
+                                      inp_kw_DiscreteInteractionProperty,
+                                      inp_kw_Distribution,
+                                      inp_kw_DistributionTable,
+                                      inp_kw_DsaControls,
+                                      inp_kw_Elset,
+                                      inp_kw_EndAssembly,
+                                      inp_kw_EndPart,
+                                      inp_kw_EndStep,
+                                      inp_kw_Fastener,
+                                      inp_kw_FastenerFailure,
+                                      inp_kw_FastenerProperty,
+                                      inp_kw_FileFormat,
+                                      inp_kw_FilmProperty,
+                                      inp_kw_Filter,
+                                      inp_kw_FluidBehavior,
+                                      inp_kw_FluidBulkModulus,
+                                      inp_kw_FluidCavity,
+                                      inp_kw_FluidDensity,
+                                      inp_kw_FluidExchange,
+                                      inp_kw_FluidExchangeProperty,
+                                      inp_kw_FluidExpansion,
+                                      inp_kw_Foundation,
+                                      inp_kw_GasketBehavior,
+                                      inp_kw_Heading,
+                                      inp_kw_ImpedanceProperty,
+                                      inp_kw_Imperfection,
+                                      inp_kw_Import,
+                                      inp_kw_IncidentWaveInteractionProperty,
+                                      inp_kw_IncidentWaveProperty,
+                                      inp_kw_Include,
+                                      inp_kw_InitialConditions,
+                                      inp_kw_MapSolution,
+                                      inp_kw_Mass,
+                                      inp_kw_MassAdjust,
+                                      inp_kw_Material,
+                                      inp_kw_MatrixAssemble,
+                                      inp_kw_MatrixInput,
+                                      inp_kw_MolecularWeight,
+                                      inp_kw_Nset,
+                                      inp_kw_Parameter,
+                                      inp_kw_Part,
+                                      inp_kw_ParticleGenerator,
+                                      inp_kw_ParticleGeneratorMixture,
+                                      inp_kw_ParticleGeneratorInlet,
+                                      inp_kw_PeriodicMedia,
+                                      inp_kw_PostOutput,
+                                      inp_kw_Preprint,
+                                      inp_kw_ProbabilityDensityFunction,
+                                      inp_kw_PsdDefinition,
+                                      inp_kw_PhysicalConstants,
+                                      inp_kw_RadiationSymmetry,
+                                      inp_kw_Restart,
+                                      inp_kw_RotaryInertia,
+                                      inp_kw_SectionControls,
+                                      inp_kw_SpatialDistribution,
+                                      inp_kw_Spectrum,
+                                      inp_kw_SpotWeldInteraction,
+                                      inp_kw_SpotWeldProperty,
+                                      inp_kw_Step,
+                                      inp_kw_Subcycling,
+                                      inp_kw_SubstructureCopy,
+                                      inp_kw_SubstructureDelete,
+                                      inp_kw_SubstructureDirectory,
+                                      inp_kw_SubstructureProperty,
+                                      inp_kw_SurfaceInteraction,
+                                      inp_kw_SurfaceProperty,
+                                      inp_kw_SurfaceSmoothing,
+                                      inp_kw_SymmetricModelGeneration,
+                                      inp_kw_SymmetricResultsTransfer,
+                                      inp_kw_TimePoints,
+                                      inp_kw_UelProperty,
+                                      inp_kw_UserElement,
+                                      inp_kw_Wave,
+                                      inp_kw_Wind,
+                                      inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_MohrCoulomb[] = {inp_kw_MohrCoulombHardening, inp_kw_TensionCutoff,
+                                            inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_MoistureSwelling[] = {inp_kw_Ratios, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_MullinsEffect[] = {inp_kw_BiaxialTestData, inp_kw_PlanarTestData,
+                                              inp_kw_UniaxialTestData, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Orientation[] = {inp_kw_DesignVariation, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Output[] = {inp_kw_ContactOutput,   inp_kw_ElementOutput,
+                                       inp_kw_EnergyOutput,    inp_kw_IncrementationOutput,
+                                       inp_kw_ModalOutput,     inp_kw_NodeOutput,
+                                       inp_kw_RadiationOutput, inp_kw_IntegratedOutput,
+                                       inp_kw_SurfaceOutput,   inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Part[] = {inp_kw_Adjust,
+                                     inp_kw_BeamGeneralSection,
+                                     inp_kw_BeamSection,
+                                     inp_kw_Centroid,
+                                     inp_kw_CohesiveSection,
+                                     inp_kw_ConnectorSection,
+                                     inp_kw_Coupling,
+                                     inp_kw_Damping,
+                                     inp_kw_Dashpot,
+                                     inp_kw_DesignShapeVariation,
+                                     inp_kw_DiscreteSection,
+                                     inp_kw_Distributing,
+                                     inp_kw_DistributingCoupling,
+                                     inp_kw_Distribution,
+                                     inp_kw_DragChain,
+                                     inp_kw_Elcopy,
+                                     inp_kw_Element,
+                                     inp_kw_Elgen,
+                                     inp_kw_Elset,
+                                     inp_kw_EmbeddedElement,
+                                     inp_kw_Enrichment,
+                                     inp_kw_Epjoint,
+                                     inp_kw_Equation,
+                                     inp_kw_EulerianInflatorProperty,
+                                     inp_kw_EulerianSection,
+                                     inp_kw_Fastener,
+                                     inp_kw_FastenerFailure,
+                                     inp_kw_FastenerProperty,
+                                     inp_kw_FluidInflator,
+                                     inp_kw_FluidInflatorProperty,
+                                     inp_kw_FluidProperty,
+                                     inp_kw_FluidLink,
+                                     inp_kw_FluidSection,
+                                     inp_kw_Foundation,
+                                     inp_kw_FrameSection,
+                                     inp_kw_FluidPipeSection,
+                                     inp_kw_FluidPipeFlowLoss,
+                                     inp_kw_FluidPipeConnectorSection,
+                                     inp_kw_FluidPipeConnectorLoss,
+                                     inp_kw_Gap,
+                                     inp_kw_GasketSection,
+                                     inp_kw_HeatCap,
+                                     inp_kw_Include,
+                                     inp_kw_Interface,
+                                     inp_kw_Its,
+                                     inp_kw_Joint,
+                                     inp_kw_Kinematic,
+                                     inp_kw_KinematicCoupling,
+                                     inp_kw_Mass,
+                                     inp_kw_MembraneSection,
+                                     inp_kw_Mpc,
+                                     inp_kw_Ncopy,
+                                     inp_kw_Nfill,
+                                     inp_kw_Ngen,
+                                     inp_kw_Nmap,
+                                     inp_kw_NodalEnergyRate,
+                                     inp_kw_NodalThickness,
+                                     inp_kw_Node,
+                                     inp_kw_NonStructuralMass,
+                                     inp_kw_Normal,
+                                     inp_kw_Nset,
+                                     inp_kw_Orientation,
+                                     inp_kw_IntegratedOutputSection,
+                                     inp_kw_ParameterShapeVariation,
+                                     inp_kw_ParticleGenerator,
+                                     inp_kw_ParticleGeneratorMixture,
+                                     inp_kw_ParticleGeneratorInlet,
+                                     inp_kw_PipeSoilInteraction,
+                                     inp_kw_PreTensionSection,
+                                     inp_kw_ProbabilityDensityFunction,
+                                     inp_kw_Rebar,
+                                     inp_kw_RebarLayer,
+                                     inp_kw_Release,
+                                     inp_kw_RigidBody,
+                                     inp_kw_RigidSurface,
+                                     inp_kw_RotaryInertia,
+                                     inp_kw_SolidSection,
+                                     inp_kw_ShellGeneralSection,
+                                     inp_kw_ShellSection,
+                                     inp_kw_ShellToSolidCoupling,
+                                     inp_kw_SpotWeld,
+                                     inp_kw_SpotWeldInteraction,
+                                     inp_kw_SpotWeldProperty,
+                                     inp_kw_Spring,
+                                     inp_kw_Submodel,
+                                     inp_kw_Surface,
+                                     inp_kw_SurfaceFlaw,
+                                     inp_kw_SurfaceSection,
+                                     inp_kw_System,
+                                     inp_kw_Tie,
+                                     inp_kw_Transform,
+                                     inp_kw_UelProperty,
+                                     inp_kw_UserElement,
+                                     inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_ParticleGenerator[] = {
-    inp_kw_ParticleGeneratorInlet, inp_kw_ParticleGeneratorMixture, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_PipeSoilInteraction[] = {
-    inp_kw_PipeSoilStiffness, inp_kw_UndefinedKeyword
-};
+    inp_kw_ParticleGeneratorInlet, inp_kw_ParticleGeneratorMixture, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_PipeSoilInteraction[] = {inp_kw_PipeSoilStiffness,
+                                                    inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_Plastic[] = {
-    inp_kw_CycledPlastic, inp_kw_CyclicHardening, inp_kw_DesignVariation, inp_kw_Ornl,
-    inp_kw_Potential, inp_kw_RateDependent, inp_kw_ShearFailure, inp_kw_TensileFailure,
-    inp_kw_UndefinedKeyword
-};
+    inp_kw_CycledPlastic, inp_kw_CyclicHardening, inp_kw_DesignVariation,
+    inp_kw_Ornl,          inp_kw_Potential,       inp_kw_RateDependent,
+    inp_kw_ShearFailure,  inp_kw_TensileFailure,  inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_PorousMetalPlasticity[] = {
-    inp_kw_PorousFailureCriteria, inp_kw_VoidNucleation, inp_kw_UndefinedKeyword
-};
+    inp_kw_PorousFailureCriteria, inp_kw_VoidNucleation, inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_PostOutput[] = {
-    inp_kw_ElFile, inp_kw_ElPrint, inp_kw_Elset, inp_kw_EnergyFile, inp_kw_EnergyPrint,
-    inp_kw_Field, inp_kw_FileOutput, inp_kw_FileFormat, inp_kw_Include, inp_kw_ModalFile,
-    inp_kw_ModalPrint, inp_kw_NodeFile, inp_kw_NodePrint, inp_kw_Nset, inp_kw_Output, inp_kw_Print,
-    inp_kw_RadiationFile, inp_kw_RadiationPrint, inp_kw_TracerParticle, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_RadiationSymmetry[] = {
-    inp_kw_Cyclic, inp_kw_Periodic, inp_kw_Reflection, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_RigidBody[] = {
-    inp_kw_DesignVariation, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Shear[] = {
-    inp_kw_LoadingData, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ShellGeneralSection[] = {
-    inp_kw_Damping, inp_kw_HourglassStiffness, inp_kw_TransverseShearStiffness,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_ShellSection[] = {
-    inp_kw_DesignVariation, inp_kw_HourglassStiffness, inp_kw_TransverseShearStiffness,
-    inp_kw_RebarLayer, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_SolidSection[] = {
-    inp_kw_DesignVariation, inp_kw_HourglassStiffness, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_SpotWeldInteraction[] = {
-    inp_kw_SpotWeld, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Step[] = {
-    inp_kw_AcousticFlowVelocity, inp_kw_AdaptiveMesh, inp_kw_AdaptiveMeshConstraint,
-    inp_kw_AdaptiveMeshControls, inp_kw_Amplitude, inp_kw_Anneal, inp_kw_BaseMotion,
-    inp_kw_BeamSectionGenerate, inp_kw_Boundary, inp_kw_Buckle, inp_kw_BulkViscosity,
-    inp_kw_Cecharge, inp_kw_Cecurrent, inp_kw_CAddedMass, inp_kw_Cfilm, inp_kw_Cflux, inp_kw_Cflow,
-    inp_kw_ChangeFriction, inp_kw_Clearance, inp_kw_Cload, inp_kw_ComplexFrequency,
-    inp_kw_CompositeModalDamping, inp_kw_ConnectorLoad, inp_kw_ConnectorMotion,
-    inp_kw_ConstraintControls, inp_kw_Contact, inp_kw_ContactControls, inp_kw_ContactFile,
-    inp_kw_ContactInterference, inp_kw_ContactPair, inp_kw_ContactPrint, inp_kw_ContactResponse,
-    inp_kw_ContourIntegral, inp_kw_Controls, inp_kw_Correlation, inp_kw_CoSimulation,
-    inp_kw_CoSimulationControls, inp_kw_CoupledTemperatureDisplacement,
-    inp_kw_CoupledThermalElectrical, inp_kw_Cradiate, inp_kw_CreepStrainRateControl,
-    inp_kw_DAddedMass, inp_kw_DampingControls, inp_kw_Debond, inp_kw_Decharge, inp_kw_Decurrent,
-    inp_kw_DEmPotential, inp_kw_DesignResponse, inp_kw_Dflow, inp_kw_Dflux, inp_kw_Diagnostics,
-    inp_kw_DirectCyclic, inp_kw_DiscreteInteraction, inp_kw_DiscreteInteractionProperty,
-    inp_kw_Dload, inp_kw_DsaControls, inp_kw_Dsecharge, inp_kw_Dsecurrent, inp_kw_Dsflow,
-    inp_kw_Dsflux, inp_kw_Dsload, inp_kw_Dynamic, inp_kw_DynamicTemperatureDisplacement,
-    inp_kw_Electromagnetic, inp_kw_ElementMatrixOutput, inp_kw_ElementOperatorOutput,
-    inp_kw_ElementResponse, inp_kw_ElementRecoveryMatrix, inp_kw_ElFile, inp_kw_ElPrint,
-    inp_kw_Elset, inp_kw_EndLoadCase, inp_kw_EnergyFile, inp_kw_EnergyPrint,
-    inp_kw_EnrichmentActivation, inp_kw_EulerianBoundary, inp_kw_EulerianMeshMotion,
-    inp_kw_ExtremeValue, inp_kw_Field, inp_kw_FileOutput, inp_kw_FileFormat, inp_kw_Film,
-    inp_kw_FixedMassScaling, inp_kw_FlexibleBody, inp_kw_Flow, inp_kw_FluidExchangeActivation,
-    inp_kw_FluidExchangeInteraction, inp_kw_FluidInflatorActivation,
-    inp_kw_FluidInflatorInteraction, inp_kw_FluidFlux, inp_kw_Frequency, inp_kw_Geostatic,
-    inp_kw_GlobalDamping, inp_kw_HeatTransfer, inp_kw_Impedance, inp_kw_IncidentWave,
-    inp_kw_LoadCase, inp_kw_MassDiffusion, inp_kw_IncidentWaveInteraction, inp_kw_Include,
-    inp_kw_InertiaRelief, inp_kw_Magnetostatic, inp_kw_MatrixCheck, inp_kw_MassFlowRate,
-    inp_kw_MatrixGenerate, inp_kw_MatrixOutput, inp_kw_MediaTransport, inp_kw_ModalDamping,
-    inp_kw_ModalDynamic, inp_kw_ModalFile, inp_kw_ModalPrint, inp_kw_ModelChange, inp_kw_Monitor,
-    inp_kw_Motion, inp_kw_NodeFile, inp_kw_NodePrint, inp_kw_NodeResponse, inp_kw_Nset,
-    inp_kw_Output, inp_kw_ParticleGeneratorFlow, inp_kw_PressurePenetration, inp_kw_PressureStress,
-    inp_kw_PrestressHold, inp_kw_Print, inp_kw_Radiate, inp_kw_RadiationFile, inp_kw_RadiationPrint,
-    inp_kw_RadiationSymmetry, inp_kw_RadiationViewfactor, inp_kw_RandomResponse,
-    inp_kw_RemeshTrigger, inp_kw_ResponseSpectrum, inp_kw_Restart, inp_kw_RetainedNodalDofs,
-    inp_kw_SectionFile, inp_kw_SectionPrint, inp_kw_SelectEigenmodes,
-    inp_kw_SelectCyclicSymmetryModes, inp_kw_Sfilm, inp_kw_Sflow, inp_kw_Simpedance, inp_kw_Sload,
-    inp_kw_Soils, inp_kw_SolutionTechnique, inp_kw_SolverControls, inp_kw_Sradiate, inp_kw_Static,
-    inp_kw_SteadyStateCriteria, inp_kw_SteadyStateDetection, inp_kw_SteadyStateDynamics,
-    inp_kw_SteadyStateTransport, inp_kw_SubstructureGenerate, inp_kw_SubstructureLoadCase,
-    inp_kw_SubstructureMatrixOutput, inp_kw_SubstructurePath, inp_kw_SurfaceInteraction,
-    inp_kw_Temperature, inp_kw_TorquePrint, inp_kw_TracerParticle, inp_kw_TransportVelocity,
-    inp_kw_VariableMassScaling, inp_kw_ViewfactorOutput, inp_kw_Visco, inp_kw_DesignVariation,
-    inp_kw_Cfd, inp_kw_FluidBoundary, inp_kw_UndefinedKeyword
-};
+    inp_kw_ElFile,        inp_kw_ElPrint,        inp_kw_Elset,          inp_kw_EnergyFile,
+    inp_kw_EnergyPrint,   inp_kw_Field,          inp_kw_FileOutput,     inp_kw_FileFormat,
+    inp_kw_Include,       inp_kw_ModalFile,      inp_kw_ModalPrint,     inp_kw_NodeFile,
+    inp_kw_NodePrint,     inp_kw_Nset,           inp_kw_Output,         inp_kw_Print,
+    inp_kw_RadiationFile, inp_kw_RadiationPrint, inp_kw_TracerParticle, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_RadiationSymmetry[] = {inp_kw_Cyclic, inp_kw_Periodic, inp_kw_Reflection,
+                                                  inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_RigidBody[] = {inp_kw_DesignVariation, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Shear[] = {inp_kw_LoadingData, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ShellGeneralSection[] = {inp_kw_Damping, inp_kw_HourglassStiffness,
+                                                    inp_kw_TransverseShearStiffness,
+                                                    inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_ShellSection[] = {inp_kw_DesignVariation, inp_kw_HourglassStiffness,
+                                             inp_kw_TransverseShearStiffness, inp_kw_RebarLayer,
+                                             inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_SolidSection[] = {inp_kw_DesignVariation, inp_kw_HourglassStiffness,
+                                             inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_SpotWeldInteraction[] = {inp_kw_SpotWeld, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Step[] = {inp_kw_AcousticFlowVelocity,
+                                     inp_kw_AdaptiveMesh,
+                                     inp_kw_AdaptiveMeshConstraint,
+                                     inp_kw_AdaptiveMeshControls,
+                                     inp_kw_Amplitude,
+                                     inp_kw_Anneal,
+                                     inp_kw_BaseMotion,
+                                     inp_kw_BeamSectionGenerate,
+                                     inp_kw_Boundary,
+                                     inp_kw_Buckle,
+                                     inp_kw_BulkViscosity,
+                                     inp_kw_Cecharge,
+                                     inp_kw_Cecurrent,
+                                     inp_kw_CAddedMass,
+                                     inp_kw_Cfilm,
+                                     inp_kw_Cflux,
+                                     inp_kw_Cflow,
+                                     inp_kw_ChangeFriction,
+                                     inp_kw_Clearance,
+                                     inp_kw_Cload,
+                                     inp_kw_ComplexFrequency,
+                                     inp_kw_CompositeModalDamping,
+                                     inp_kw_ConnectorLoad,
+                                     inp_kw_ConnectorMotion,
+                                     inp_kw_ConstraintControls,
+                                     inp_kw_Contact,
+                                     inp_kw_ContactControls,
+                                     inp_kw_ContactFile,
+                                     inp_kw_ContactInterference,
+                                     inp_kw_ContactPair,
+                                     inp_kw_ContactPrint,
+                                     inp_kw_ContactResponse,
+                                     inp_kw_ContourIntegral,
+                                     inp_kw_Controls,
+                                     inp_kw_Correlation,
+                                     inp_kw_CoSimulation,
+                                     inp_kw_CoSimulationControls,
+                                     inp_kw_CoupledTemperatureDisplacement,
+                                     inp_kw_CoupledThermalElectrical,
+                                     inp_kw_Cradiate,
+                                     inp_kw_CreepStrainRateControl,
+                                     inp_kw_DAddedMass,
+                                     inp_kw_DampingControls,
+                                     inp_kw_Debond,
+                                     inp_kw_Decharge,
+                                     inp_kw_Decurrent,
+                                     inp_kw_DEmPotential,
+                                     inp_kw_DesignResponse,
+                                     inp_kw_Dflow,
+                                     inp_kw_Dflux,
+                                     inp_kw_Diagnostics,
+                                     inp_kw_DirectCyclic,
+                                     inp_kw_DiscreteInteraction,
+                                     inp_kw_DiscreteInteractionProperty,
+                                     inp_kw_Dload,
+                                     inp_kw_DsaControls,
+                                     inp_kw_Dsecharge,
+                                     inp_kw_Dsecurrent,
+                                     inp_kw_Dsflow,
+                                     inp_kw_Dsflux,
+                                     inp_kw_Dsload,
+                                     inp_kw_Dynamic,
+                                     inp_kw_DynamicTemperatureDisplacement,
+                                     inp_kw_Electromagnetic,
+                                     inp_kw_ElementMatrixOutput,
+                                     inp_kw_ElementOperatorOutput,
+                                     inp_kw_ElementResponse,
+                                     inp_kw_ElementRecoveryMatrix,
+                                     inp_kw_ElFile,
+                                     inp_kw_ElPrint,
+                                     inp_kw_Elset,
+                                     inp_kw_EndLoadCase,
+                                     inp_kw_EnergyFile,
+                                     inp_kw_EnergyPrint,
+                                     inp_kw_EnrichmentActivation,
+                                     inp_kw_EulerianBoundary,
+                                     inp_kw_EulerianMeshMotion,
+                                     inp_kw_ExtremeValue,
+                                     inp_kw_Field,
+                                     inp_kw_FileOutput,
+                                     inp_kw_FileFormat,
+                                     inp_kw_Film,
+                                     inp_kw_FixedMassScaling,
+                                     inp_kw_FlexibleBody,
+                                     inp_kw_Flow,
+                                     inp_kw_FluidExchangeActivation,
+                                     inp_kw_FluidExchangeInteraction,
+                                     inp_kw_FluidInflatorActivation,
+                                     inp_kw_FluidInflatorInteraction,
+                                     inp_kw_FluidFlux,
+                                     inp_kw_Frequency,
+                                     inp_kw_Geostatic,
+                                     inp_kw_GlobalDamping,
+                                     inp_kw_HeatTransfer,
+                                     inp_kw_Impedance,
+                                     inp_kw_IncidentWave,
+                                     inp_kw_LoadCase,
+                                     inp_kw_MassDiffusion,
+                                     inp_kw_IncidentWaveInteraction,
+                                     inp_kw_Include,
+                                     inp_kw_InertiaRelief,
+                                     inp_kw_Magnetostatic,
+                                     inp_kw_MatrixCheck,
+                                     inp_kw_MassFlowRate,
+                                     inp_kw_MatrixGenerate,
+                                     inp_kw_MatrixOutput,
+                                     inp_kw_MediaTransport,
+                                     inp_kw_ModalDamping,
+                                     inp_kw_ModalDynamic,
+                                     inp_kw_ModalFile,
+                                     inp_kw_ModalPrint,
+                                     inp_kw_ModelChange,
+                                     inp_kw_Monitor,
+                                     inp_kw_Motion,
+                                     inp_kw_NodeFile,
+                                     inp_kw_NodePrint,
+                                     inp_kw_NodeResponse,
+                                     inp_kw_Nset,
+                                     inp_kw_Output,
+                                     inp_kw_ParticleGeneratorFlow,
+                                     inp_kw_PressurePenetration,
+                                     inp_kw_PressureStress,
+                                     inp_kw_PrestressHold,
+                                     inp_kw_Print,
+                                     inp_kw_Radiate,
+                                     inp_kw_RadiationFile,
+                                     inp_kw_RadiationPrint,
+                                     inp_kw_RadiationSymmetry,
+                                     inp_kw_RadiationViewfactor,
+                                     inp_kw_RandomResponse,
+                                     inp_kw_RemeshTrigger,
+                                     inp_kw_ResponseSpectrum,
+                                     inp_kw_Restart,
+                                     inp_kw_RetainedNodalDofs,
+                                     inp_kw_SectionFile,
+                                     inp_kw_SectionPrint,
+                                     inp_kw_SelectEigenmodes,
+                                     inp_kw_SelectCyclicSymmetryModes,
+                                     inp_kw_Sfilm,
+                                     inp_kw_Sflow,
+                                     inp_kw_Simpedance,
+                                     inp_kw_Sload,
+                                     inp_kw_Soils,
+                                     inp_kw_SolutionTechnique,
+                                     inp_kw_SolverControls,
+                                     inp_kw_Sradiate,
+                                     inp_kw_Static,
+                                     inp_kw_SteadyStateCriteria,
+                                     inp_kw_SteadyStateDetection,
+                                     inp_kw_SteadyStateDynamics,
+                                     inp_kw_SteadyStateTransport,
+                                     inp_kw_SubstructureGenerate,
+                                     inp_kw_SubstructureLoadCase,
+                                     inp_kw_SubstructureMatrixOutput,
+                                     inp_kw_SubstructurePath,
+                                     inp_kw_SurfaceInteraction,
+                                     inp_kw_Temperature,
+                                     inp_kw_TorquePrint,
+                                     inp_kw_TracerParticle,
+                                     inp_kw_TransportVelocity,
+                                     inp_kw_VariableMassScaling,
+                                     inp_kw_ViewfactorOutput,
+                                     inp_kw_Visco,
+                                     inp_kw_DesignVariation,
+                                     inp_kw_Cfd,
+                                     inp_kw_FluidBoundary,
+                                     inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_SubstructureGenerate[] = {
-    inp_kw_RetainedEigenModes, inp_kw_RetainedNodalDofs, inp_kw_SubstructureLoadCase,
-    inp_kw_SubstructureMatrixOutput, inp_kw_ElementRecoveryMatrix, inp_kw_MatrixCheck,
-    inp_kw_FlexibleBody, inp_kw_UndefinedKeyword
-};
+    inp_kw_RetainedEigenModes,    inp_kw_RetainedNodalDofs,
+    inp_kw_SubstructureLoadCase,  inp_kw_SubstructureMatrixOutput,
+    inp_kw_ElementRecoveryMatrix, inp_kw_MatrixCheck,
+    inp_kw_FlexibleBody,          inp_kw_UndefinedKeyword};
 constexpr inp_KeywordEnm k_SubstructureLoadCase[] = {
-    inp_kw_Boundary, inp_kw_Cload, inp_kw_Dload, inp_kw_Dsload, inp_kw_Sload, inp_kw_Temperature,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_SubstructureProperty[] = {
-    inp_kw_Damping, inp_kw_DampingControls, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_SurfaceInteraction[] = {
-    inp_kw_Bond, inp_kw_CohesiveBehavior, inp_kw_ContactDamping, inp_kw_ContactPermeability,
-    inp_kw_DamageInitiation, inp_kw_FractureCriterion, inp_kw_Friction, inp_kw_SurfaceBehavior,
-    inp_kw_GapConductance, inp_kw_GapElectricalConductance, inp_kw_GapHeatGeneration,
-    inp_kw_GapRadiation, inp_kw_Blockage, inp_kw_SurfacePermeability, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_SurfaceProperty[] = {
-    inp_kw_Emissivity, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_SurfaceSection[] = {
-    inp_kw_RebarLayer, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Swelling[] = {
-    inp_kw_Ratios, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Uniaxial[] = {
-    inp_kw_LoadingData, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_UserElement[] = {
-    inp_kw_Matrix, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Viscoelastic[] = {
-    inp_kw_CombinedTestData, inp_kw_ShearTestData, inp_kw_Trs, inp_kw_VolumetricTestData,
-    inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Viscosity[] = {
-    inp_kw_Trs, inp_kw_UndefinedKeyword
-};
-constexpr inp_KeywordEnm k_Viscous[] = {
-    inp_kw_Potential, inp_kw_UndefinedKeyword
-};
+    inp_kw_Boundary, inp_kw_Cload,       inp_kw_Dload,           inp_kw_Dsload,
+    inp_kw_Sload,    inp_kw_Temperature, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_SubstructureProperty[] = {inp_kw_Damping, inp_kw_DampingControls,
+                                                     inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_SurfaceInteraction[] = {inp_kw_Bond,
+                                                   inp_kw_CohesiveBehavior,
+                                                   inp_kw_ContactDamping,
+                                                   inp_kw_ContactPermeability,
+                                                   inp_kw_DamageInitiation,
+                                                   inp_kw_FractureCriterion,
+                                                   inp_kw_Friction,
+                                                   inp_kw_SurfaceBehavior,
+                                                   inp_kw_GapConductance,
+                                                   inp_kw_GapElectricalConductance,
+                                                   inp_kw_GapHeatGeneration,
+                                                   inp_kw_GapRadiation,
+                                                   inp_kw_Blockage,
+                                                   inp_kw_SurfacePermeability,
+                                                   inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_SurfaceProperty[] = {inp_kw_Emissivity, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_SurfaceSection[] = {inp_kw_RebarLayer, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Swelling[] = {inp_kw_Ratios, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Uniaxial[] = {inp_kw_LoadingData, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_UserElement[] = {inp_kw_Matrix, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Viscoelastic[] = {inp_kw_CombinedTestData, inp_kw_ShearTestData,
+                                             inp_kw_Trs, inp_kw_VolumetricTestData,
+                                             inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Viscosity[] = {inp_kw_Trs, inp_kw_UndefinedKeyword};
+constexpr inp_KeywordEnm k_Viscous[] = {inp_kw_Potential, inp_kw_UndefinedKeyword};
 
 }  // namespace
 
@@ -779,7 +1105,8 @@ const inp_KeywordTableRow inp_keywordTableRows[] = {
     {"acousticwaveformulation", inp_kw_AcousticWaveFormulation, nullptr},
     {"cohesivesection", inp_kw_CohesiveSection, k_CohesiveSection},
     {"incidentwaveinteraction", inp_kw_IncidentWaveInteraction, k_IncidentWaveInteraction},
-    {"incidentwaveinteractionproperty", inp_kw_IncidentWaveInteractionProperty, k_IncidentWaveInteractionProperty},
+    {"incidentwaveinteractionproperty", inp_kw_IncidentWaveInteractionProperty,
+     k_IncidentWaveInteractionProperty},
     {"undexchargeproperty", inp_kw_UndexChargeProperty, nullptr},
     {"cohesivebehavior", inp_kw_CohesiveBehavior, nullptr},
     {"enrichment", inp_kw_Enrichment, nullptr},
@@ -974,7 +1301,8 @@ const inp_KeywordTableRow inp_keywordTableRows[] = {
     {"permanentmagnetization", inp_kw_PermanentMagnetization, nullptr},
     {"discretesection", inp_kw_DiscreteSection, nullptr},
     {"discreteinteraction", inp_kw_DiscreteInteraction, nullptr},
-    {"discreteinteractionproperty", inp_kw_DiscreteInteractionProperty, k_DiscreteInteractionProperty},
+    {"discreteinteractionproperty", inp_kw_DiscreteInteractionProperty,
+     k_DiscreteInteractionProperty},
     {"reactionrate", inp_kw_ReactionRate, nullptr},
     {"gasspecificheat", inp_kw_GasSpecificHeat, nullptr},
     {"massflowrate", inp_kw_MassFlowRate, nullptr},

@@ -12,16 +12,32 @@ namespace {
 using Match = inp_PatternMatch;
 constexpr size_t kNone = std::string_view::npos;
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool isAlphanumeric(char c) { return isLetter(c) || isDigit(c); }
-bool isSign(char c) { return c == '+' || c == '-'; }
-bool isNameStart(char c) { return isLetter(c) || c == '_'; }
+bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool isLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+bool isAlphanumeric(char c) {
+    return isLetter(c) || isDigit(c);
+}
+bool isSign(char c) {
+    return c == '+' || c == '-';
+}
+bool isNameStart(char c) {
+    return isLetter(c) || c == '_';
+}
 // [^,=\n]
-bool isNameChar(char c) { return c != ',' && c != '=' && c != '\n'; }
+bool isNameChar(char c) {
+    return c != ',' && c != '=' && c != '\n';
+}
 // [^"\n]
-bool isQuotedChar(char c) { return c != '"' && c != '\n'; }
+bool isQuotedChar(char c) {
+    return c != '"' && c != '\n';
+}
 bool isFileNameStart(char c) {
     return isAlphanumeric(c) || c == '_' || c == '$' || c == '%' || c == '/' || c == '.';
 }
@@ -42,8 +58,12 @@ Span withoutOuterBlanks(std::string_view text) {
     return {begin, end};
 }
 
-Match matched(std::string_view text, size_t begin, size_t end) { return {true, text.substr(begin, end - begin)}; }
-Match matched(std::string_view text, Span span) { return matched(text, span.begin, span.end); }
+Match matched(std::string_view text, size_t begin, size_t end) {
+    return {true, text.substr(begin, end - begin)};
+}
+Match matched(std::string_view text, Span span) {
+    return matched(text, span.begin, span.end);
+}
 
 template <class Predicate>
 bool allOf(std::string_view text, size_t begin, size_t end, Predicate predicate) {
@@ -52,7 +72,9 @@ bool allOf(std::string_view text, size_t begin, size_t end, Predicate predicate)
     return true;
 }
 
-bool allDigits(std::string_view text, size_t begin, size_t end) { return allOf(text, begin, end, isDigit); }
+bool allDigits(std::string_view text, size_t begin, size_t end) {
+    return allOf(text, begin, end, isDigit);
+}
 
 size_t skipDigits(std::string_view text, size_t at, size_t end) {
     while (at < end && isDigit(text[at])) ++at;
@@ -114,7 +136,8 @@ unsigned nextSetNameStates(unsigned states, char c) {
 
 bool isSetNameChain(std::string_view text, Span span) {
     unsigned states = kElementStart;
-    for (size_t i = span.begin; i < span.end && states != 0; ++i) states = nextSetNameStates(states, text[i]);
+    for (size_t i = span.begin; i < span.end && states != 0; ++i)
+        states = nextSetNameStates(states, text[i]);
     return (states & (kUnquoted | kQuoteClosed)) != 0;
 }
 
@@ -150,9 +173,13 @@ Match inp_PatternMatchers::MatchInteger(std::string_view text) noexcept {
     return matched(text, span);
 }
 
-Match inp_PatternMatchers::MatchDouble(std::string_view text) noexcept { return matchReal(text, 'e', 'E'); }
+Match inp_PatternMatchers::MatchDouble(std::string_view text) noexcept {
+    return matchReal(text, 'e', 'E');
+}
 
-Match inp_PatternMatchers::MatchDoubleD(std::string_view text) noexcept { return matchReal(text, 'd', 'D'); }
+Match inp_PatternMatchers::MatchDoubleD(std::string_view text) noexcept {
+    return matchReal(text, 'd', 'D');
+}
 
 Match inp_PatternMatchers::MatchParam(std::string_view text) noexcept {
     Span span = withoutOuterBlanks(text);
@@ -175,7 +202,8 @@ Match inp_PatternMatchers::MatchScopedID(std::string_view text) noexcept {
     size_t lastPart = kNone;
     // The id's digits can't start a part and a part can't start with digits,
     // so taking every part that fits never needs to be undone.
-    for (size_t next; at < span.end && (next = afterScopePart(text, at)) != kNone; at = next) lastPart = at;
+    for (size_t next; at < span.end && (next = afterScopePart(text, at)) != kNone; at = next)
+        lastPart = at;
     if (at == span.end || !allDigits(text, at, span.end)) return {};
     if (lastPart == kNone) return {true, text};
     return matched(text, lastPart, at);
@@ -184,7 +212,8 @@ Match inp_PatternMatchers::MatchScopedID(std::string_view text) noexcept {
 Match inp_PatternMatchers::MatchFileName(std::string_view text) noexcept {
     Span span = withoutOuterBlanks(text);
     if (span.IsEmpty()) return {};
-    bool unquoted = isFileNameStart(text[span.begin]) && allOf(text, span.begin + 1, span.end, isNameChar);
+    bool unquoted =
+        isFileNameStart(text[span.begin]) && allOf(text, span.begin + 1, span.end, isNameChar);
     if (unquoted || isQuotedName(text, span, 1)) return matched(text, span);
     return {};
 }

@@ -19,7 +19,7 @@ struct inp_PatternMatch {
 // "Blanks" below are blanks and tabs only; any other white space is an
 // ordinary character to these patterns.
 class inp_PatternMatchers {
-public:
+  public:
     // inp_Types::stringPat(): a name, or anything but quotes and newlines in
     // double quotes; the text without the blanks around it.
     static inp_PatternMatch MatchString(std::string_view text) noexcept;

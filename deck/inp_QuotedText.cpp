@@ -44,6 +44,10 @@ cow_String foldOutsideQuotes(char const* text) {
 
 }  // namespace
 
-cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(char const* text) { return foldOutsideQuotes<true>(text); }
+cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(char const* text) {
+    return foldOutsideQuotes<true>(text);
+}
 
-cow_String inp_TakeOutSpacesOutsideQuoted(char const* text) { return foldOutsideQuotes<false>(text); }
+cow_String inp_TakeOutSpacesOutsideQuoted(char const* text) {
+    return foldOutsideQuotes<false>(text);
+}

@@ -10,7 +10,9 @@
 
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
+}
 
 // atoi, without the library call for the common case of a short plain number.
 int parseInt(char const* text) {
@@ -20,7 +22,8 @@ int parseInt(char const* text) {
     if (*p == '+' || *p == '-') ++p;
     int digits = 0;
     long long value = 0;
-    while (p[digits] >= '0' && p[digits] <= '9' && digits < 10) value = value * 10 + (p[digits++] - '0');
+    while (p[digits] >= '0' && p[digits] <= '9' && digits < 10)
+        value = value * 10 + (p[digits++] - '0');
     if (digits == 10) return static_cast<int>(std::strtol(text, nullptr, 10));
     return static_cast<int>(negative ? -value : value);
 }
@@ -77,17 +80,21 @@ inp_RawDataArrayImpl::~inp_RawDataArrayImpl() {
     mem_Free(ncols);
 }
 
-inp_DataArrayImpl* inp_RawDataArrayImpl::Copy() const { return new inp_RawDataArrayImpl(*this); }
+inp_DataArrayImpl* inp_RawDataArrayImpl::Copy() const {
+    return new inp_RawDataArrayImpl(*this);
+}
 
 // The row table is allocated on the first append rather than at construction:
 // most keywords have no data lines, and the first append gives the same 10 rows.
 void inp_RawDataArrayImpl::growIfFull() {
     if (nrows + 1 <= allocatedSize) return;
     int newSize = allocatedSize * 2 > 10 ? allocatedSize * 2 : 10;
-    auto* newRows = static_cast<char**>(mem_Realloc(rows, sizeof(char*) * static_cast<size_t>(newSize)));
+    auto* newRows =
+        static_cast<char**>(mem_Realloc(rows, sizeof(char*) * static_cast<size_t>(newSize)));
     if (!newRows) throw inp_MemoryException();
     rows = newRows;
-    auto* newCols = static_cast<int*>(mem_Realloc(ncols, sizeof(int) * static_cast<size_t>(newSize)));
+    auto* newCols =
+        static_cast<int*>(mem_Realloc(ncols, sizeof(int) * static_cast<size_t>(newSize)));
     if (!newCols) throw inp_MemoryException();
     ncols = newCols;
     allocatedSize = newSize;
@@ -133,7 +140,9 @@ void inp_RawDataArrayImpl::AppendRaw(char const* line) {
     ++nrows;
 }
 
-void inp_RawDataArrayImpl::checkRow(int i) const { ZELBAS_ASSERT_TEXT(i >= 0 && i < nrows, "i >= 0 && i < nrows"); }
+void inp_RawDataArrayImpl::checkRow(int i) const {
+    ZELBAS_ASSERT_TEXT(i >= 0 && i < nrows, "i >= 0 && i < nrows");
+}
 
 void inp_RawDataArrayImpl::checkItem(int i, int j) const {
     checkRow(i);
@@ -188,7 +197,9 @@ inp_Types::typeEnm inp_RawDataArrayImpl::Type(char const* text) {
     return inp_Types::inp_REAL;
 }
 
-inp_Types::typeEnm inp_RawDataArrayImpl::Type(int i, int j) { return Type(Item(i, j)); }
+inp_Types::typeEnm inp_RawDataArrayImpl::Type(int i, int j) {
+    return Type(Item(i, j));
+}
 
 bool inp_RawDataArrayImpl::IsNone(int i, int j) const {
     for (char const* p = Item(i, j); *p; ++p)
@@ -201,7 +212,9 @@ bool inp_RawDataArrayImpl::HasValue(int i, int j) const {
     return !IsNone(i, j);
 }
 
-int inp_RawDataArrayImpl::AsInt(int i, int j) const { return parseInt(Item(i, j)); }
+int inp_RawDataArrayImpl::AsInt(int i, int j) const {
+    return parseInt(Item(i, j));
+}
 
 double inp_RawDataArrayImpl::AsDouble(int i, int j) const {
     // The stored text is rewritten on purpose: "1.5D3" becomes "1.5e3" for good.
@@ -249,6 +262,10 @@ inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, double value) {
     return Set(i, j, cow_String::FromDouble(value));
 }
 
-inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, int value) { return Set(i, j, cow_String::FromInt(value)); }
+inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, int value) {
+    return Set(i, j, cow_String::FromInt(value));
+}
 
-bool inp_RawDataArrayImpl::HasRowContinuation(int i) const { return IsNone(i, Cols(i) - 1); }
+bool inp_RawDataArrayImpl::HasRowContinuation(int i) const {
+    return IsNone(i, Cols(i) - 1);
+}

@@ -11,7 +11,7 @@
 #include "deck/inp_DataArrayImpl.h"
 
 class inp_RawDataArrayImpl : public inp_DataArrayImpl {
-public:
+  public:
     inp_RawDataArrayImpl();
     inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other);
     inp_RawDataArrayImpl& operator=(inp_RawDataArrayImpl const&) = delete;
@@ -41,7 +41,7 @@ public:
     // The item's text as stored (after any in-place exponent rewrite).
     char const* Item(int i, int j) const;
 
-private:
+  private:
     void growIfFull();
     // Copies `line` into a new block and returns it with the length in `length`.
     static char* copyLine(char const* line, size_t& length);

@@ -6,13 +6,7 @@
 // deck/inp_PatternMatchers.h holds hand-written equivalents for hot paths.
 struct inp_Types {
     // Callers compare the numeric values, so they must never change.
-    enum typeEnm {
-        inp_INTEGER = 0,
-        inp_BOOLEAN = 1,
-        inp_REAL = 2,
-        inp_STRING = 3,
-        inp_NONE = 4
-    };
+    enum typeEnm { inp_INTEGER = 0, inp_BOOLEAN = 1, inp_REAL = 2, inp_STRING = 3, inp_NONE = 4 };
 
     // Each pattern is ECMAScript regular expression text, anchored at both
     // ends. Where a pattern reads backslash-t or backslash-n, the engine gets

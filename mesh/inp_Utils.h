@@ -5,9 +5,11 @@
 #include "deck/inp_QuotedText.h"
 
 class inp_Utils {
-public:
+  public:
     static cow_String TakeOutSpacesAndUpperOutsideQuoted(char const* text) {
         return inp_TakeOutSpacesAndUpperOutsideQuoted(text);
     }
-    static cow_String TakeOutSpacesOutsideQuoted(char const* text) { return inp_TakeOutSpacesOutsideQuoted(text); }
+    static cow_String TakeOutSpacesOutsideQuoted(char const* text) {
+        return inp_TakeOutSpacesOutsideQuoted(text);
+    }
 };

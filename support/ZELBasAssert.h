@@ -5,8 +5,8 @@
 
 [[noreturn]] void zelbas_AssertFailed(char const* condition, char const* file, int line);
 
-#define ZELBAS_ASSERT(condition)                                             \
-    do {                                                                     \
+#define ZELBAS_ASSERT(condition)                                               \
+    do {                                                                       \
         if (!(condition)) zelbas_AssertFailed(#condition, __FILE__, __LINE__); \
     } while (false)
 

@@ -29,16 +29,20 @@ void nex_Exception::DBWrite() const {
     std::fprintf(stderr, "%s: %s\n", DynTypeId(), DeveloperReport().CStr());
 }
 
-ZELBasAssertException::ZELBasAssertException(cow_String const& condition, char const* file, int line)
+ZELBasAssertException::ZELBasAssertException(cow_String const& condition, char const* file,
+                                             int line)
     : m_condition(condition) {
     m_throwFile = file;
     m_throwLine = line;
 }
 
-atr_String ZELBasAssertException::UserReport() const { return atr_String(m_condition); }
+atr_String ZELBasAssertException::UserReport() const {
+    return atr_String(m_condition);
+}
 
 atr_String ZELBasAssertException::DeveloperReport() const {
-    return atr("Assertion failed: %s (%s:%d)", m_condition, m_throwFile ? m_throwFile : "", m_throwLine);
+    return atr("Assertion failed: %s (%s:%d)", m_condition, m_throwFile ? m_throwFile : "",
+               m_throwLine);
 }
 
 void zelbas_AssertFailed(char const* condition, char const* file, int line) {

@@ -7,7 +7,7 @@
 // code outside the system can catch it generically; what() gives the
 // developer's report.
 class ZELBasException : public std::exception {
-public:
+  public:
     ZELBasException() = default;
     ~ZELBasException() override = default;
 
@@ -20,17 +20,17 @@ public:
 
     char const* what() const noexcept override;
 
-protected:
+  protected:
     char const* m_throwFile = nullptr;
     int m_throwLine = 0;
 
-private:
+  private:
     mutable cow_String m_what;
 };
 
 // An exception with a numeric code and a dynamic type identity.
 class nex_Exception : public ZELBasException {
-public:
+  public:
     virtual int GetCode() const { return 0; }
     virtual char const* DynTypeId() const { return "nex_Exception"; }
     // Writes the developer report to the error stream.
@@ -41,7 +41,7 @@ public:
 // nex_PrimException<atr_String, 1>, so one handler catches them all.
 template <class Message, int Code>
 class nex_PrimException : public nex_Exception {
-public:
+  public:
     nex_PrimException() = default;
     explicit nex_PrimException(Message const& message) : m_message(message) {}
 
@@ -57,18 +57,18 @@ public:
     // Throws this exception again as its dynamic type.
     [[noreturn]] virtual void Propagate() const { throw *this; }
 
-private:
+  private:
     Message m_message;
 };
 
 // What a violated internal condition raises; the message is the condition text.
 class ZELBasAssertException : public ZELBasException {
-public:
+  public:
     ZELBasAssertException(cow_String const& condition, char const* file, int line);
     cow_String const& Condition() const { return m_condition; }
     atr_String UserReport() const override;
     atr_String DeveloperReport() const override;
 
-private:
+  private:
     cow_String m_condition;
 };

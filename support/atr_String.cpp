@@ -9,11 +9,14 @@ std::unordered_map<cow_String, cow_String>& catalogue() {
     return entries;
 }
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 }  // namespace
 
-atr_String& atr_String::ReplaceNonTranslated(std::string_view placeholder, cow_String const& value) {
+atr_String& atr_String::ReplaceNonTranslated(std::string_view placeholder,
+                                             cow_String const& value) {
     Substitute(placeholder, value.View());
     return *this;
 }
@@ -22,7 +25,9 @@ void atr_AddTranslation(cow_String const& format, cow_String const& translation)
     catalogue()[format] = translation;
 }
 
-void atr_ClearTranslations() { catalogue().clear(); }
+void atr_ClearTranslations() {
+    catalogue().clear();
+}
 
 atr_translate::atr_translate(cow_String const& format) : m_format(format) {
     auto& entries = catalogue();
@@ -81,7 +86,8 @@ atr_String atr_translate::Result(ZELBasStringMode) const {
     return result;
 }
 
-void atr_SubstituteFormat(atr_translate& translate, int number, cow_String const& value, ZELBasStringMode) {
+void atr_SubstituteFormat(atr_translate& translate, int number, cow_String const& value,
+                          ZELBasStringMode) {
     translate.SetArgument(number, value);
 }
 
@@ -89,6 +95,7 @@ atr_String atr_format(cow_String const& format, std::initializer_list<atr_Argume
                       ZELBasStringMode mode) {
     atr_translate translate(format);
     int number = 1;
-    for (atr_Argument const& argument : arguments) atr_SubstituteFormat(translate, number++, argument.Text(), mode);
+    for (atr_Argument const& argument : arguments)
+        atr_SubstituteFormat(translate, number++, argument.Text(), mode);
     return translate.Result(mode);
 }

@@ -13,7 +13,7 @@ using atr_StringBase = cow_String;
 
 // A string that carries a message: what passes through the diagnostic system.
 class atr_String : public cow_String {
-public:
+  public:
     using cow_String::cow_String;
     atr_String() = default;
     atr_String(cow_String const& text) : cow_String(text) {}  // NOLINT: a message is any string
@@ -28,20 +28,21 @@ public:
 // (or `$d`) by number; `%%` is a percent sign. A placeholder without an
 // argument stays as written.
 class atr_translate {
-public:
+  public:
     explicit atr_translate(cow_String const& format);
     cow_String const& Format() const { return m_format; }
     void SetArgument(int number, cow_String const& value);
     atr_String Result(ZELBasStringMode mode) const;
 
-private:
+  private:
     static constexpr int kMaxArguments = 4;
     cow_String m_format;
     cow_String m_arguments[kMaxArguments];
     bool m_given[kMaxArguments] = {};
 };
 
-void atr_SubstituteFormat(atr_translate& translate, int number, cow_String const& value, ZELBasStringMode mode);
+void atr_SubstituteFormat(atr_translate& translate, int number, cow_String const& value,
+                          ZELBasStringMode mode);
 
 // The message catalogue of this thread: a format registered here is replaced by
 // its translation before substitution. Empty unless a host fills it.
@@ -50,14 +51,14 @@ void atr_ClearTranslations();
 
 // One argument of atr(): text or an integer, held as its text.
 class atr_Argument {
-public:
-    atr_Argument(char const* text) : m_text(text) {}      // NOLINT
-    atr_Argument(cow_String const& text) : m_text(text) {}  // NOLINT
+  public:
+    atr_Argument(char const* text) : m_text(text) {}                 // NOLINT
+    atr_Argument(cow_String const& text) : m_text(text) {}           // NOLINT
     atr_Argument(int value) : m_text(cow_String::FromInt(value)) {}  // NOLINT
-    atr_Argument(ZELBasStringMode) = delete;  // a mode is never an argument
+    atr_Argument(ZELBasStringMode) = delete;                         // a mode is never an argument
     cow_String const& Text() const { return m_text; }
 
-private:
+  private:
     cow_String m_text;
 };
 
@@ -83,14 +84,18 @@ atr_String atr(cow_String const& format, A1 const& a1, A2 const& a2, ZELBasStrin
     return atr_format(format, {atr_Argument(a1), atr_Argument(a2)}, mode);
 }
 template <class A1, class A2, class A3>
-atr_String atr(cow_String const& format, A1 const& a1, A2 const& a2, A3 const& a3, ZELBasStringMode mode) {
+atr_String atr(cow_String const& format, A1 const& a1, A2 const& a2, A3 const& a3,
+               ZELBasStringMode mode) {
     return atr_format(format, {atr_Argument(a1), atr_Argument(a2), atr_Argument(a3)}, mode);
 }
 template <class A1, class A2, class A3, class A4>
 atr_String atr(cow_String const& format, A1 const& a1, A2 const& a2, A3 const& a3, A4 const& a4,
                ZELBasStringMode mode) {
-    return atr_format(format, {atr_Argument(a1), atr_Argument(a2), atr_Argument(a3), atr_Argument(a4)}, mode);
+    return atr_format(
+        format, {atr_Argument(a1), atr_Argument(a2), atr_Argument(a3), atr_Argument(a4)}, mode);
 }
 
 // A message that is not translated: the text as it stands.
-inline atr_String atr_raw(cow_String const& text) { return atr_String(text); }
+inline atr_String atr_raw(cow_String const& text) {
+    return atr_String(text);
+}

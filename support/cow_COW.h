@@ -17,7 +17,7 @@ bool cow_DropReference(int* count) noexcept;
 // apart from the object, so any type can be held without being prepared for it.
 template <class T>
 class cow_CountedHld {
-public:
+  public:
     cow_CountedHld() noexcept = default;
     // Takes ownership of `owned`, which may be null.
     explicit cow_CountedHld(T* owned) { adopt(owned); }
@@ -60,7 +60,7 @@ public:
         std::swap(m_count, other.m_count);
     }
 
-private:
+  private:
     void adopt(T* owned) {
         if (!owned) return;
         try {
@@ -95,7 +95,7 @@ struct cow_Direct {
 // whose copies must keep their dynamic type.
 template <class T, class Policy = cow_Direct<T>>
 class cow_COW {
-public:
+  public:
     cow_COW() : m_handle(new T()) {}
     cow_COW(T const& value)
         : m_handle(Policy::Clone(value)) {}  // NOLINT: a value converts to its handle
@@ -120,6 +120,6 @@ public:
         return m_handle.SharesWith(other.m_handle);
     }
 
-private:
+  private:
     cow_CountedHld<T> m_handle;
 };

@@ -38,11 +38,11 @@ class cow_List {
     struct Block;
     struct Table;
 
-public:
+  public:
     // A forward iterator over the elements, for range-for. It walks block by
     // block and is invalidated by any change to the list.
     class const_iterator {
-    public:
+      public:
         using iterator_category = std::forward_iterator_tag;
         using value_type = T;
         using difference_type = std::ptrdiff_t;
@@ -66,7 +66,7 @@ public:
             return a.m_pos == b.m_pos;
         }
 
-    private:
+      private:
         friend class cow_List;
         const_iterator(Table const* table, int pos, int end)
             : m_table(table), m_pos(pos), m_end(end) {
@@ -269,7 +269,7 @@ public:
         return std::equal(a.begin(), a.end(), b.begin());
     }
 
-private:
+  private:
     template <class>
     friend class cow_ListIter;
 
@@ -323,8 +323,11 @@ private:
         ::operator delete(block, kBlockAlignment);
     }
     static Table* newTable(int shift, int capacity) {
-        void* memory =
-            ::operator new(kTableHeader + sizeof(Block*) * static_cast<size_t>(capacity));  // NOLINT(bugprone-sizeof-expression): a table of block pointers
+        void* memory = ::operator new(
+            kTableHeader +
+            sizeof(Block*) *
+                static_cast<size_t>(
+                    capacity));  // NOLINT(bugprone-sizeof-expression): a table of block pointers
         Table* table = ::new (memory) Table{1, shift, capacity};
         std::fill_n(table->blocks(), capacity, nullptr);
         return table;
@@ -633,7 +636,7 @@ private:
 // change meanwhile without disturbing the walk.
 template <class T>
 class cow_ListIter {
-public:
+  public:
     explicit cow_ListIter(cow_List<T> const& list) : m_list(list) { First(); }
     cow_ListIter(cow_ListIter const& other) : m_list(other.m_list), m_index(other.m_index) {
         seek();
@@ -661,7 +664,7 @@ public:
         return *m_current;
     }
 
-private:
+  private:
     void seek() { m_current = m_list.iteratorAt(std::min(m_index, m_list.Length())); }
 
     cow_List<T> m_list;

@@ -21,7 +21,7 @@ class cow_ConstMapSortedIt;
 // tree into a list.
 template <class K, class V>
 class cow_Map {
-public:
+  public:
     cow_Map() noexcept = default;
     cow_Map(std::initializer_list<std::pair<K, V>> entries) {
         for (auto const& entry : entries) Insert(entry.first, entry.second);
@@ -134,7 +134,7 @@ public:
         std::swap(m_size, other.m_size);
     }
 
-private:
+  private:
     friend class cow_ConstMapIterator<K, V>;
     friend class cow_ConstMapSortedIt<K, V>;
 
@@ -308,7 +308,7 @@ private:
 // to the map don't reach it.
 template <class K, class V>
 class cow_ConstMapIterator {
-public:
+  public:
     explicit cow_ConstMapIterator(cow_Map<K, V> const& map) : m_map(map) {
         // Visiting a node pushes at most its two children after popping it, so
         // the stack never holds more than one node per level plus one.
@@ -331,7 +331,7 @@ public:
     K const& CurrentKey() const { return current()->key; }
     V const& CurrentValue() const { return current()->value; }
 
-private:
+  private:
     using Map = cow_Map<K, V>;
     using Node = typename Map::Node;
     Node const* current() const {
@@ -347,7 +347,7 @@ private:
 // keys given to the constructor, such as AscSortCmp or DescSortCmp.
 template <class K, class V>
 class cow_ConstMapSortedIt {
-public:
+  public:
     static bool AscSortCmp(K const& a, K const& b) { return a < b; }
     static bool DescSortCmp(K const& a, K const& b) { return b < a; }
 
@@ -368,7 +368,7 @@ public:
     K const& CurrentKey() const { return current()->key; }
     V const& CurrentValue() const { return current()->value; }
 
-private:
+  private:
     using Map = cow_Map<K, V>;
     using Node = typename Map::Node;
     Node const* current() const {

@@ -43,11 +43,16 @@ cow_String::cow_String(char const* text) {
     if (text) assign(text, static_cast<int>(std::strlen(text)));
 }
 
-cow_String::cow_String(char const* text, int length) { assign(text, length); }
+cow_String::cow_String(char const* text, int length) {
+    assign(text, length);
+}
 
-cow_String::cow_String(std::string_view text) { assign(text.data(), static_cast<int>(text.size())); }
+cow_String::cow_String(std::string_view text) {
+    assign(text.data(), static_cast<int>(text.size()));
+}
 
-cow_String::cow_String(cow_String const& other) noexcept : m_chars(other.m_chars), m_rep(other.m_rep) {
+cow_String::cow_String(cow_String const& other) noexcept
+    : m_chars(other.m_chars), m_rep(other.m_rep) {
     if (m_rep) ++m_rep->refs;
 }
 
@@ -78,7 +83,9 @@ cow_String& cow_String::operator=(cow_String&& other) noexcept {
     return *this;
 }
 
-cow_String::~cow_String() { release(); }
+cow_String::~cow_String() {
+    release();
+}
 
 cow_String cow_String::FromInt(long long value) {
     char buffer[24];
@@ -116,9 +123,13 @@ int cow_String::RFind(char c) const noexcept {
     return -1;
 }
 
-bool cow_String::StartsWith(std::string_view prefix) const noexcept { return View().starts_with(prefix); }
+bool cow_String::StartsWith(std::string_view prefix) const noexcept {
+    return View().starts_with(prefix);
+}
 
-bool cow_String::EndsWith(std::string_view suffix) const noexcept { return View().ends_with(suffix); }
+bool cow_String::EndsWith(std::string_view suffix) const noexcept {
+    return View().ends_with(suffix);
+}
 
 cow_String cow_String::Substr(int pos, int count) const {
     ZELBAS_ASSERT(pos >= 0 && pos <= Length());
@@ -141,7 +152,9 @@ char* cow_String::makeWritable(int capacity) {
     return m_chars;
 }
 
-void cow_String::Reserve(int capacity) { makeWritable(capacity); }
+void cow_String::Reserve(int capacity) {
+    makeWritable(capacity);
+}
 
 cow_String& cow_String::ToUpper() {
     if (IsEmpty()) return *this;
@@ -171,7 +184,9 @@ cow_String& cow_String::RightTrim(char const* chars) {
     return keep < Length() ? Erase(keep) : *this;
 }
 
-cow_String& cow_String::Trim(char const* chars) { return RightTrim(chars).LeftTrim(chars); }
+cow_String& cow_String::Trim(char const* chars) {
+    return RightTrim(chars).LeftTrim(chars);
+}
 
 cow_String& cow_String::Erase(int pos, int count) {
     int length = Length();
@@ -212,7 +227,8 @@ cow_String& cow_String::append(char const* text, int length) {
     int old = Length();
     int needed = old + length;
     int capacity = needed;
-    if (m_rep && m_rep->refs == 1 && needed > m_rep->capacity) capacity = std::max(needed, 2 * m_rep->capacity);
+    if (m_rep && m_rep->refs == 1 && needed > m_rep->capacity)
+        capacity = std::max(needed, 2 * m_rep->capacity);
     char* p = makeWritable(capacity);
     std::memmove(p + old, text, static_cast<size_t>(length));
     p[needed] = 0;
@@ -226,6 +242,10 @@ cow_String operator+(cow_String const& a, cow_String const& b) {
     return result.append(a).append(b);
 }
 
-cow_String operator+(cow_String const& a, char const* b) { return a + cow_String(b); }
+cow_String operator+(cow_String const& a, char const* b) {
+    return a + cow_String(b);
+}
 
-cow_String operator+(char const* a, cow_String const& b) { return cow_String(a) + b; }
+cow_String operator+(char const* a, cow_String const& b) {
+    return cow_String(a) + b;
+}

@@ -14,7 +14,7 @@
 // The operations shared with the message string atr_String live here;
 // atr_String derives from this class.
 class cow_String {
-public:
+  public:
     cow_String() noexcept = default;
     cow_String(char const* text);  // NOLINT: implicit on purpose, literals flow everywhere
     cow_String(char const* text, int length);
@@ -54,7 +54,9 @@ public:
     // Replaces every occurrence of `from` by `to`.
     cow_String& Substitute(std::string_view from, std::string_view to);
     cow_String& append(char const* text, int length);
-    cow_String& append(std::string_view text) { return append(text.data(), static_cast<int>(text.size())); }
+    cow_String& append(std::string_view text) {
+        return append(text.data(), static_cast<int>(text.size()));
+    }
     cow_String& append(cow_String const& text) { return append(text.m_chars, text.Length()); }
     cow_String& append(char const* text) { return append(std::string_view(text)); }
     cow_String& append(char c) { return append(&c, 1); }
@@ -66,15 +68,21 @@ public:
 
     // Sharing, for tests and for code that wants to know whether a write copies.
     int UseCount() const noexcept { return m_rep ? m_rep->refs : 0; }
-    bool SharesWith(cow_String const& other) const noexcept { return m_rep && m_rep == other.m_rep; }
+    bool SharesWith(cow_String const& other) const noexcept {
+        return m_rep && m_rep == other.m_rep;
+    }
 
-    friend bool operator==(cow_String const& a, cow_String const& b) noexcept { return a.View() == b.View(); }
-    friend bool operator==(cow_String const& a, char const* b) noexcept { return a.View() == std::string_view(b); }
+    friend bool operator==(cow_String const& a, cow_String const& b) noexcept {
+        return a.View() == b.View();
+    }
+    friend bool operator==(cow_String const& a, char const* b) noexcept {
+        return a.View() == std::string_view(b);
+    }
     friend std::strong_ordering operator<=>(cow_String const& a, cow_String const& b) noexcept {
         return a.View() <=> b.View();
     }
 
-private:
+  private:
     struct Rep {
         int refs;
         int length;
@@ -97,5 +105,7 @@ cow_String operator+(char const* a, cow_String const& b);
 
 template <>
 struct std::hash<cow_String> {
-    size_t operator()(cow_String const& s) const noexcept { return std::hash<std::string_view>()(s.View()); }
+    size_t operator()(cow_String const& s) const noexcept {
+        return std::hash<std::string_view>()(s.View());
+    }
 };

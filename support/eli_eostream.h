@@ -6,7 +6,7 @@
 #include "support/cow_String.h"
 
 class eli_eostream {
-public:
+  public:
     eli_eostream(aio_ostream& out, int bufferLimit) : m_out(out), m_limit(bufferLimit) {}
     eli_eostream(eli_eostream const&) = delete;
     eli_eostream& operator=(eli_eostream const&) = delete;
@@ -26,7 +26,7 @@ public:
         m_out.flush();
     }
 
-private:
+  private:
     aio_ostream& m_out;
     int m_limit;
     cow_String m_buffer;

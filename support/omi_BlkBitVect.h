@@ -8,7 +8,7 @@
 // block, not a gigabit. It is the key-only form of the blocked table, so it
 // shares its directory, its block freeing and its ordered walk.
 class omi_BlkBitVect {
-public:
+  public:
     // True if the bit was clear before.
     bool Set(uint32_t index) { return m_bits.Insert(index, omi_NoValue{}); }
     // True if the bit was set before.
@@ -20,7 +20,7 @@ public:
     int64_t Count() const { return m_bits.Size(); }
     bool IsEmpty() const { return m_bits.IsEmpty(); }
 
-private:
+  private:
     friend class omi_BlkBitVectTrav;
     omi_UintTable<omi_NoValue> m_bits;
 };
@@ -28,7 +28,7 @@ private:
 // Walks the set bits of a vector in ascending order, starting on the first.
 // The vector must outlive the walk and must not change during it.
 class omi_BlkBitVectTrav {
-public:
+  public:
     explicit omi_BlkBitVectTrav(omi_BlkBitVect const& bits) : m_bits(&bits) { First(); }
 
     void First() { m_position = m_bits->m_bits.begin(); }
@@ -37,7 +37,7 @@ public:
     bool NotDone() const { return !IsDone(); }
     uint32_t Current() const { return m_position.CurrentKey(); }
 
-private:
+  private:
     omi_BlkBitVect const* m_bits;
     omi_UintTable<omi_NoValue>::const_iterator m_position;
 };

@@ -16,7 +16,7 @@
 // always fresh, and growing only has to move Size().
 template <class T>
 class omi_BlockedArray {
-public:
+  public:
     static constexpr int kBlockBits = 10;
     static constexpr int64_t kBlockSize = int64_t{1} << kBlockBits;
 
@@ -80,7 +80,7 @@ public:
         m_size = 0;
     }
 
-private:
+  private:
     static std::unique_ptr<T[]> newBlock() { return std::unique_ptr<T[]>(new T[kBlockSize]()); }
 
     T& cell(int64_t index) const { return m_blocks[index >> kBlockBits][index & (kBlockSize - 1)]; }

@@ -44,9 +44,15 @@ inline constexpr int kMiddleBits = 11;
 inline constexpr uint32_t kLeafSlots = 1u << kLeafBits;
 inline constexpr uint32_t kMiddleSlots = 1u << kMiddleBits;
 
-inline uint32_t TopIndex(uint32_t slot) { return slot >> (kLeafBits + kMiddleBits); }
-inline uint32_t MiddleIndex(uint32_t slot) { return (slot >> kLeafBits) & (kMiddleSlots - 1); }
-inline uint32_t LeafIndex(uint32_t slot) { return slot & (kLeafSlots - 1); }
+inline uint32_t TopIndex(uint32_t slot) {
+    return slot >> (kLeafBits + kMiddleBits);
+}
+inline uint32_t MiddleIndex(uint32_t slot) {
+    return (slot >> kLeafBits) & (kMiddleSlots - 1);
+}
+inline uint32_t LeafIndex(uint32_t slot) {
+    return slot & (kLeafSlots - 1);
+}
 inline uint32_t ComposeSlot(uint32_t top, uint32_t middle, uint32_t leaf) {
     return (top << (kLeafBits + kMiddleBits)) | (middle << kLeafBits) | leaf;
 }
@@ -56,7 +62,7 @@ inline uint32_t ComposeSlot(uint32_t top, uint32_t middle, uint32_t leaf) {
 // expensive values costs nothing for its gaps.
 template <class V>
 class TableLeaf {
-public:
+  public:
     static constexpr bool kHasValues = !std::is_same_v<V, omi_NoValue>;
 
     // User-provided, so that `new TableLeaf()` doesn't zero the value storage.
@@ -76,7 +82,9 @@ public:
     int Count() const { return m_count; }
     bool IsEmpty() const { return m_count == 0; }
 
-    V* At(uint32_t bit) { return std::launder(reinterpret_cast<V*>(m_values.bytes + bit * sizeof(V))); }
+    V* At(uint32_t bit) {
+        return std::launder(reinterpret_cast<V*>(m_values.bytes + bit * sizeof(V)));
+    }
     V const* At(uint32_t bit) const {
         return std::launder(reinterpret_cast<V const*>(m_values.bytes + bit * sizeof(V)));
     }
@@ -116,7 +124,7 @@ public:
         return -1;
     }
 
-private:
+  private:
     static constexpr uint32_t kWords = kLeafSlots / 64;
 
     void* slotAddress(uint32_t bit) { return m_values.bytes + bit * sizeof(V); }
@@ -158,7 +166,7 @@ private:
 // single unsigned comparison rejects both sides.
 template <class Child>
 class TableDirectory {
-public:
+  public:
     TableDirectory() = default;
     TableDirectory(TableDirectory const& other) : m_first(other.m_first), m_live(other.m_live) {
         m_children.reserve(other.m_children.size());
@@ -224,7 +232,7 @@ public:
     uint32_t FirstOccupied() const { return NextOccupied(m_first); }
     uint32_t LastOccupied() const { return End() - 1; }
 
-private:
+  private:
     std::unique_ptr<Child>& cellFor(uint32_t index) {
         if (m_children.empty()) {
             m_first = index;
@@ -275,7 +283,7 @@ class omi_BasicIntTable {
     using Top = omi_detail::TableDirectory<Middle>;
     using Slots = omi_detail::KeySlots<Key>;
 
-public:
+  public:
     using key_type = Key;
     using mapped_type = V;
 
@@ -288,7 +296,7 @@ public:
     // Walks the entries in ascending key order. The table must not change
     // while an iterator is in use.
     class const_iterator {
-    public:
+      public:
         using iterator_category = std::input_iterator_tag;
         using value_type = Entry;
         using reference = Entry;
@@ -297,7 +305,9 @@ public:
 
         const_iterator() = default;
 
-        Entry operator*() const { return {CurrentKey(), *m_leaf->At(omi_detail::LeafIndex(m_slot))}; }
+        Entry operator*() const {
+            return {CurrentKey(), *m_leaf->At(omi_detail::LeafIndex(m_slot))};
+        }
         Key CurrentKey() const { return Slots::ToKey(m_slot); }
         bool AtEnd() const { return m_leaf == nullptr; }
 
@@ -306,7 +316,8 @@ public:
             if (bit >= 0) {
                 m_slot = (m_slot & ~(omi_detail::kLeafSlots - 1)) | static_cast<uint32_t>(bit);
             } else {
-                m_table->seek(static_cast<uint64_t>(m_slot | (omi_detail::kLeafSlots - 1)) + 1, *this);
+                m_table->seek(static_cast<uint64_t>(m_slot | (omi_detail::kLeafSlots - 1)) + 1,
+                              *this);
             }
             return *this;
         }
@@ -320,7 +331,7 @@ public:
             return a.m_leaf == b.m_leaf && (a.m_leaf == nullptr || a.m_slot == b.m_slot);
         }
 
-    private:
+      private:
         friend class omi_BasicIntTable;
         omi_BasicIntTable const* m_table = nullptr;
         Leaf const* m_leaf = nullptr;  // null at the end
@@ -425,7 +436,7 @@ public:
     }
     const_iterator end() const { return {}; }
 
-private:
+  private:
     Leaf* findLeaf(uint32_t slot) const {
         Middle const* const middle = m_top.Find(omi_detail::TopIndex(slot));
         return middle != nullptr ? middle->Find(omi_detail::MiddleIndex(slot)) : nullptr;
@@ -495,7 +506,7 @@ private:
 // change while it is in use.
 template <class Key, class V>
 class omi_BasicIntTableIterator {
-public:
+  public:
     explicit omi_BasicIntTableIterator(omi_BasicIntTable<Key, V> const& table) : m_table(&table) {
         First();
     }
@@ -507,7 +518,7 @@ public:
     Key CurrentKey() const { return m_position.CurrentKey(); }
     V const& CurrentValue() const { return (*m_position).value; }
 
-private:
+  private:
     omi_BasicIntTable<Key, V> const* m_table;
     typename omi_BasicIntTable<Key, V>::const_iterator m_position;
 };
@@ -515,24 +526,24 @@ private:
 // Classes rather than aliases, so that other headers can declare them ahead.
 template <class V>
 class omi_IntTable : public omi_BasicIntTable<int32_t, V> {
-public:
+  public:
     using omi_BasicIntTable<int32_t, V>::omi_BasicIntTable;
 };
 
 template <class V>
 class omi_UintTable : public omi_BasicIntTable<uint32_t, V> {
-public:
+  public:
     using omi_BasicIntTable<uint32_t, V>::omi_BasicIntTable;
 };
 
 template <class V>
 class omi_IntTableIterator : public omi_BasicIntTableIterator<int32_t, V> {
-public:
+  public:
     using omi_BasicIntTableIterator<int32_t, V>::omi_BasicIntTableIterator;
 };
 
 template <class V>
 class omi_UintTableIterator : public omi_BasicIntTableIterator<uint32_t, V> {
-public:
+  public:
     using omi_BasicIntTableIterator<uint32_t, V>::omi_BasicIntTableIterator;
 };

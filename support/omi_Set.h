@@ -7,7 +7,7 @@
 // maps the ints onto the bit indices in the same order, so negative members
 // work and the walk comes out ascending over the whole int range.
 class omi_Set {
-public:
+  public:
     // True if the value was new.
     bool Insert(int value) { return m_bits.Set(toIndex(value)); }
     // True if the value was a member.
@@ -17,7 +17,7 @@ public:
     bool IsEmpty() const { return m_bits.IsEmpty(); }
     void Clear() { m_bits.ClearAll(); }
 
-private:
+  private:
     friend class omi_SetIT;
     static constexpr uint32_t kSignBit = 0x80000000u;
     static uint32_t toIndex(int value) { return static_cast<uint32_t>(value) ^ kSignBit; }
@@ -29,7 +29,7 @@ private:
 // Walks a set in ascending order, starting on the smallest member. The set must
 // outlive the walk and must not change during it.
 class omi_SetIT {
-public:
+  public:
     explicit omi_SetIT(omi_Set const& set) : m_walk(set.m_bits) {}
 
     void First() { m_walk.First(); }
@@ -38,6 +38,6 @@ public:
     bool NotDone() const { return m_walk.NotDone(); }
     int CurrentItem() const { return omi_Set::toValue(m_walk.Current()); }
 
-private:
+  private:
     omi_BlkBitVectTrav m_walk;
 };

@@ -6,7 +6,7 @@
 // stretches, in seconds. While running, the readings include the stretch under
 // way. A timer belongs to one thread.
 class omi_Timer {
-public:
+  public:
     // Starting a running timer, or stopping a stopped one, changes nothing.
     void Start();
     void Stop();
@@ -17,7 +17,7 @@ public:
     double GetElapsedTime() const;
     double GetTotalCpuTime() const;
 
-private:
+  private:
     using WallClock = std::chrono::steady_clock;
 
     double runningWallSeconds() const;

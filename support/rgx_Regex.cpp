@@ -12,7 +12,9 @@ namespace {
 
 struct PatternHash {
     using is_transparent = void;
-    size_t operator()(std::string_view text) const noexcept { return std::hash<std::string_view>()(text); }
+    size_t operator()(std::string_view text) const noexcept {
+        return std::hash<std::string_view>()(text);
+    }
 };
 
 // Keys are private std::string copies: a cow_String key would share its
@@ -28,7 +30,9 @@ std::regex const& compiledPattern(std::string_view pattern) {
     return cache.emplace(std::string(pattern), std::move(compiled)).first->second;
 }
 
-int offsetIn(char const* begin, char const* position) { return static_cast<int>(position - begin); }
+int offsetIn(char const* begin, char const* position) {
+    return static_cast<int>(position - begin);
+}
 
 }  // namespace
 
@@ -52,7 +56,9 @@ int rgx_ReIterator::GroupCount() const noexcept {
     return m_matched ? static_cast<int>(m_bounds.size() / 2) - 1 : 0;
 }
 
-bool rgx_ReIterator::groupTookPart(int group) const { return m_bounds[2 * static_cast<size_t>(group)] >= 0; }
+bool rgx_ReIterator::groupTookPart(int group) const {
+    return m_bounds[2 * static_cast<size_t>(group)] >= 0;
+}
 
 cow_String rgx_ReIterator::String(int group) const {
     ZELBAS_ASSERT(group >= 0);

@@ -13,7 +13,7 @@
 
 // The outcome of one rgx_match: whether the pattern matched, and the groups.
 class rgx_ReIterator {
-public:
+  public:
     // Matched nothing.
     rgx_ReIterator() = default;
 
@@ -32,7 +32,7 @@ public:
     // The number of capture groups of the pattern; 0 when nothing matched.
     int GroupCount() const noexcept;
 
-private:
+  private:
     friend rgx_ReIterator rgx_match(cow_String const& text, cow_String const& pattern);
     bool groupTookPart(int group) const;
 

@@ -8,7 +8,8 @@ TEST(DeckExceptionTexts, ParameterFamily) {
     EXPECT_EQ(inp_InvalidParameterException("1a").UserReport(),
               "Invalid parameter: 1a. The parameter may be misspelled, obsolete, or invalid.");
     EXPECT_EQ(inp_InvalidParameterValueException("elset", "a=b").UserReport(),
-              "Invalid value \"a=b\" for parameter \"elset\". The value may be misspelled, obsolete, or invalid.");
+              "Invalid value \"a=b\" for parameter \"elset\". The value may be misspelled, "
+              "obsolete, or invalid.");
     EXPECT_EQ(inp_MissingEndQuoteException("name=\"x").UserReport(),
               "Missing end quote in parameter data \"name=\"x\".");
 }
@@ -16,13 +17,16 @@ TEST(DeckExceptionTexts, ParameterFamily) {
 TEST(DeckExceptionTexts, KeywordFamilyKeepsLineAndFileOutOfTheMessage) {
     inp_InvalidParameterException cause("1a");
     inp_KeywordParameterException wrapped(7, "a.inp", "NSET", cause);
-    EXPECT_EQ(wrapped.UserReport(), "Problem when parsing keyword: NSET     Invalid parameter: 1a. The parameter may "
-                                    "be misspelled, obsolete, or invalid.");
+    EXPECT_EQ(wrapped.UserReport(),
+              "Problem when parsing keyword: NSET     Invalid parameter: 1a. The parameter may "
+              "be misspelled, obsolete, or invalid.");
     EXPECT_EQ(wrapped.LineNumber(), 7);
     EXPECT_EQ(wrapped.FileName(), "a.inp");
     EXPECT_EQ(inp_NoInputParameterException(1, "a.inp").UserReport(), "Missing input parameter");
-    EXPECT_EQ(inp_MissingIncludeFileException(1, "a", "b.inp").UserReport(), "Include file \"b.inp\" does not exist.");
-    EXPECT_EQ(inp_UnreadableIncludeFileException(1, "a", "b.inp").UserReport(), "Input file \"b.inp\" is unreadable.");
+    EXPECT_EQ(inp_MissingIncludeFileException(1, "a", "b.inp").UserReport(),
+              "Include file \"b.inp\" does not exist.");
+    EXPECT_EQ(inp_UnreadableIncludeFileException(1, "a", "b.inp").UserReport(),
+              "Input file \"b.inp\" is unreadable.");
     EXPECT_EQ(inp_CircularIncludeFileException(1, "a", "b.inp").UserReport(),
               "Include file \"b.inp\" has already been included.");
     EXPECT_EQ(inp_ParameterizedIncludeFileException(1, "a", "<f>").UserReport(),

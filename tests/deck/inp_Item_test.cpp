@@ -14,7 +14,9 @@
 #include "support/rgx_Regex.h"
 
 // Readable failure messages.
-void PrintTo(cow_String const& text, std::ostream* out) { *out << '"' << text.View() << '"'; }
+void PrintTo(cow_String const& text, std::ostream* out) {
+    *out << '"' << text.View() << '"';
+}
 
 namespace {
 
@@ -24,7 +26,9 @@ struct Inferred {
     char const* asString;
 };
 
-void PrintTo(Inferred const& inferred, std::ostream* out) { *out << '"' << inferred.text << '"'; }
+void PrintTo(Inferred const& inferred, std::ostream* out) {
+    *out << '"' << inferred.text << '"';
+}
 
 class InpItemInference : public ::testing::TestWithParam<Inferred> {};
 
@@ -37,23 +41,25 @@ TEST_P(InpItemInference, TypeAndTextAreAsExpected) {
 using T = inp_Types;
 INSTANTIATE_TEST_SUITE_P(
     Table, InpItemInference,
-    ::testing::Values(Inferred{"", T::inp_NONE, "None"}, Inferred{" \t ", T::inp_NONE, "None"},
-                      Inferred{"17", T::inp_INTEGER, "17"}, Inferred{"+5", T::inp_INTEGER, "5"},
-                      Inferred{" -3\t", T::inp_INTEGER, "-3"}, Inferred{"1e5", T::inp_REAL, "1e+05"},
-                      Inferred{"e5", T::inp_STRING, "e5"}, Inferred{"Part-1.7", T::inp_STRING, "Part-1.7"},
-                      Inferred{"1.7", T::inp_REAL, "1.7"}, Inferred{"3d2", T::inp_REAL, "300"},
-                      Inferred{"/tmp/a.inp", T::inp_STRING, "/tmp/a.inp"}, Inferred{"1a.txt", T::inp_STRING, "1a.txt"},
-                      Inferred{"1-2", T::inp_STRING, "1-2"}, Inferred{"\"\"", T::inp_NONE, "None"},
-                      Inferred{"a=b", T::inp_NONE, "None"}, Inferred{"a,b", T::inp_NONE, "None"},
-                      Inferred{"5.", T::inp_REAL, "5"}, Inferred{".5", T::inp_REAL, "0.5"},
-                      Inferred{".", T::inp_REAL, "0"}, Inferred{"1.5D+3", T::inp_REAL, "1500"},
-                      Inferred{"1.5d3", T::inp_REAL, "1500"}, Inferred{"7.8E3", T::inp_REAL, "7800"},
-                      Inferred{"  ELSET_Top ", T::inp_STRING, "ELSET_Top"},
-                      Inferred{"\"my part\".\"my set\"", T::inp_STRING, "\"my part\".\"my set\""},
-                      Inferred{" \"a, b\" ", T::inp_STRING, "\"a, b\""}, Inferred{"-", T::inp_NONE, "None"},
-                      // Scoped ids that aren't set names are kept whole.
-                      Inferred{"\"my part\".17", T::inp_STRING, "\"my part\".17"},
-                      Inferred{"a,b.7", T::inp_STRING, "a,b.7"}));
+    ::testing::Values(
+        Inferred{"", T::inp_NONE, "None"}, Inferred{" \t ", T::inp_NONE, "None"},
+        Inferred{"17", T::inp_INTEGER, "17"}, Inferred{"+5", T::inp_INTEGER, "5"},
+        Inferred{" -3\t", T::inp_INTEGER, "-3"}, Inferred{"1e5", T::inp_REAL, "1e+05"},
+        Inferred{"e5", T::inp_STRING, "e5"}, Inferred{"Part-1.7", T::inp_STRING, "Part-1.7"},
+        Inferred{"1.7", T::inp_REAL, "1.7"}, Inferred{"3d2", T::inp_REAL, "300"},
+        Inferred{"/tmp/a.inp", T::inp_STRING, "/tmp/a.inp"},
+        Inferred{"1a.txt", T::inp_STRING, "1a.txt"}, Inferred{"1-2", T::inp_STRING, "1-2"},
+        Inferred{"\"\"", T::inp_NONE, "None"}, Inferred{"a=b", T::inp_NONE, "None"},
+        Inferred{"a,b", T::inp_NONE, "None"}, Inferred{"5.", T::inp_REAL, "5"},
+        Inferred{".5", T::inp_REAL, "0.5"}, Inferred{".", T::inp_REAL, "0"},
+        Inferred{"1.5D+3", T::inp_REAL, "1500"}, Inferred{"1.5d3", T::inp_REAL, "1500"},
+        Inferred{"7.8E3", T::inp_REAL, "7800"},
+        Inferred{"  ELSET_Top ", T::inp_STRING, "ELSET_Top"},
+        Inferred{"\"my part\".\"my set\"", T::inp_STRING, "\"my part\".\"my set\""},
+        Inferred{" \"a, b\" ", T::inp_STRING, "\"a, b\""}, Inferred{"-", T::inp_NONE, "None"},
+        // Scoped ids that aren't set names are kept whole.
+        Inferred{"\"my part\".17", T::inp_STRING, "\"my part\".17"},
+        Inferred{"a,b.7", T::inp_STRING, "a,b.7"}));
 
 TEST(InpItemInferenceNumbers, FollowAtoiAndAtof) {
     EXPECT_EQ(inp_Item(cow_String("-0042")).AsInt(), -42);
@@ -77,8 +83,10 @@ TEST(InpItemInferenceText, KeepsCaseAndSharesAnUntrimmedText) {
 }
 
 TEST(InpItemConversions, ByType) {
-    EXPECT_TRUE(inp_Item(true).AsBool() && inp_Item(-1).AsBool() && inp_Item(0.1).AsBool() && inp_Item("x").AsBool());
-    EXPECT_FALSE(inp_Item(false).AsBool() || inp_Item(0).AsBool() || inp_Item(0.0).AsBool() || inp_Item().AsBool());
+    EXPECT_TRUE(inp_Item(true).AsBool() && inp_Item(-1).AsBool() && inp_Item(0.1).AsBool() &&
+                inp_Item("x").AsBool());
+    EXPECT_FALSE(inp_Item(false).AsBool() || inp_Item(0).AsBool() || inp_Item(0.0).AsBool() ||
+                 inp_Item().AsBool());
     EXPECT_EQ(inp_Item(true).AsString(), "TRUE");
     EXPECT_EQ(inp_Item(false).AsString(), "FALSE");
     EXPECT_EQ(inp_Item(-12).AsString(), "-12");
@@ -98,11 +106,16 @@ void expectConversionFailure(void (*convert)(), char const* message) {
 }
 
 TEST(InpItemConversions, FailuresThrowKeywordExceptionsWithTheItemText) {
-    expectConversionFailure([] { (void)inp_Item(2.0).AsInt(); }, "Value cannot be converted to an integer: 2");
-    expectConversionFailure([] { (void)inp_Item(true).AsInt(); }, "Value cannot be converted to an integer: TRUE");
-    expectConversionFailure([] { (void)inp_Item().AsInt(); }, "Value cannot be converted to an integer: None");
-    expectConversionFailure([] { (void)inp_Item("top").AsDouble(); }, "Value cannot be converted to a double: top");
-    expectConversionFailure([] { (void)inp_Item(false).AsDouble(); }, "Value cannot be converted to a double: FALSE");
+    expectConversionFailure([] { (void)inp_Item(2.0).AsInt(); },
+                            "Value cannot be converted to an integer: 2");
+    expectConversionFailure([] { (void)inp_Item(true).AsInt(); },
+                            "Value cannot be converted to an integer: TRUE");
+    expectConversionFailure([] { (void)inp_Item().AsInt(); },
+                            "Value cannot be converted to an integer: None");
+    expectConversionFailure([] { (void)inp_Item("top").AsDouble(); },
+                            "Value cannot be converted to a double: top");
+    expectConversionFailure([] { (void)inp_Item(false).AsDouble(); },
+                            "Value cannot be converted to a double: FALSE");
 }
 
 // Inference written out plainly with the regular expressions, to hold the
@@ -118,35 +131,42 @@ Reference inferWithRegex(cow_String text) {
     auto real = [](cow_String number) { return cow_String::FromDouble(std::atof(number.CStr())); };
     if (rgx_ReIterator m = rgx_match(text, inp_Types::integerPat()))
         return {inp_Types::inp_INTEGER, cow_String::FromInt(std::atoi(m.String().CStr()))};
-    if (rgx_ReIterator m = rgx_match(text, inp_Types::setNamePat())) return {inp_Types::inp_STRING, m.String()};
-    if (rgx_ReIterator m = rgx_match(text, inp_Types::scopedIDPat())) return {inp_Types::inp_STRING, m.String(0)};
-    if (rgx_ReIterator m = rgx_match(text, inp_Types::doublePat())) return {inp_Types::inp_REAL, real(m.String())};
+    if (rgx_ReIterator m = rgx_match(text, inp_Types::setNamePat()))
+        return {inp_Types::inp_STRING, m.String()};
+    if (rgx_ReIterator m = rgx_match(text, inp_Types::scopedIDPat()))
+        return {inp_Types::inp_STRING, m.String(0)};
+    if (rgx_ReIterator m = rgx_match(text, inp_Types::doublePat()))
+        return {inp_Types::inp_REAL, real(m.String())};
     if (rgx_ReIterator m = rgx_match(text, inp_Types::doublePatD())) {
         std::string number(m.String().View());
         if (size_t at = number.find('D'); at != std::string::npos) number[at] = 'e';
         if (size_t at = number.find('d'); at != std::string::npos) number[at] = 'e';
         return {inp_Types::inp_REAL, real(cow_String(number.c_str()))};
     }
-    if (rgx_ReIterator m = rgx_match(text, inp_Types::fileNamePat())) return {inp_Types::inp_STRING, m.String()};
+    if (rgx_ReIterator m = rgx_match(text, inp_Types::fileNamePat()))
+        return {inp_Types::inp_STRING, m.String()};
     return {inp_Types::inp_NONE, "None"};
 }
 
 TEST(InpItemInferenceDifferential, AgreesWithInferenceByRegularExpressions) {
-    std::vector<std::string> const tokens = {"a", "Part-1", "_", ".", ".", "\"", "\"x y\"", "\"\"", "1", "42", "0",
-                                             "+", "-", "e", "E", "d", "D", " ", "\t", "\n", ",", "=", "/", "$",
-                                             "%", "\xe9", "7.8E3", "1d2", "Z"};
+    std::vector<std::string> const tokens = {
+        "a", "Part-1", "_", ".", ".", "\"",   "\"x y\"", "\"\"", "1",  "42",
+        "0", "+",      "-", "e", "E", "d",    "D",       " ",    "\t", "\n",
+        ",", "=",      "/", "$", "%", "\xe9", "7.8E3",   "1d2",  "Z"};
     std::mt19937 random(77);
     int disagreements = 0;
     for (int n = 0; n < 30000; ++n) {
         std::string text;
-        for (size_t length = random() % 13; text.size() < length;) text += tokens[random() % tokens.size()];
+        for (size_t length = random() % 13; text.size() < length;)
+            text += tokens[random() % tokens.size()];
         cow_String input(std::string_view{text});
         Reference expected = inferWithRegex(input);
         inp_Item item(input);
         if (item.Type() == expected.type && item.AsString() == expected.text) continue;
         if (++disagreements <= 10)
-            ADD_FAILURE() << "\"" << text << "\": expected type " << expected.type << " " << expected.text.View()
-                          << ", got " << item.Type() << " " << item.AsString().View();
+            ADD_FAILURE() << "\"" << text << "\": expected type " << expected.type << " "
+                          << expected.text.View() << ", got " << item.Type() << " "
+                          << item.AsString().View();
     }
     EXPECT_EQ(disagreements, 0);
 }

@@ -8,7 +8,9 @@
 
 namespace {
 
-inp_KeywordTable& table() { return inp_KeywordTable::Instance(); }
+inp_KeywordTable& table() {
+    return inp_KeywordTable::Instance();
+}
 
 std::set<int> asSet(cow_List<int> const& list) {
     std::set<int> result;
@@ -42,7 +44,8 @@ TEST(KeywordTableAbbreviation, UnknownAndAmbiguousNamesThrowOrGiveZero) {
         table().FullName("zzz");
         FAIL();
     } catch (inp_UnknownKeywordException const& e) {
-        EXPECT_EQ(e.UserReport(), "Unknown keyword \"zzz\". The keyword may be misspelled, obsolete, or invalid.");
+        EXPECT_EQ(e.UserReport(),
+                  "Unknown keyword \"zzz\". The keyword may be misspelled, obsolete, or invalid.");
         EXPECT_EQ(e.LineNumber(), 0);
         EXPECT_TRUE(e.FileName().IsEmpty());
     }
@@ -82,9 +85,10 @@ TEST(KeywordTableContent, SuboptionsKeepTheOrderOfTheirRow) {
 
 TEST(KeywordTableContent, ParentsOfAKeywordThatStandsInManyPlaces) {
     std::set<int> parents = asSet(table().ParentKeywords(inp_kw_Friction));
-    EXPECT_EQ(parents, (std::set<int>{inp_kw_Interface, inp_kw_Gap, inp_kw_Its, inp_kw_SurfaceInteraction,
-                                      inp_kw_ChangeFriction, inp_kw_ConnectorFriction,
-                                      inp_kw_DiscreteInteractionProperty}));
+    EXPECT_EQ(parents,
+              (std::set<int>{inp_kw_Interface, inp_kw_Gap, inp_kw_Its, inp_kw_SurfaceInteraction,
+                             inp_kw_ChangeFriction, inp_kw_ConnectorFriction,
+                             inp_kw_DiscreteInteractionProperty}));
     EXPECT_EQ(table().ParentKeywords(inp_kw_Friction).Length(), 7);
     EXPECT_TRUE(table().ParentKeywords(inp_kw_Model).IsEmpty());
 }
@@ -112,15 +116,18 @@ TEST(KeywordTableBelow, TheFourNamedLists) {
     std::set<int> assembly = asSet(table().AssemblySuboptions());
     std::set<int> model = asSet(table().ModelSuboptions());
 
-    EXPECT_TRUE(part.count(inp_kw_Node) && part.count(inp_kw_SolidSection) && part.count(inp_kw_Kinematic));
+    EXPECT_TRUE(part.count(inp_kw_Node) && part.count(inp_kw_SolidSection) &&
+                part.count(inp_kw_Kinematic));
     EXPECT_FALSE(part.count(inp_kw_Part));
     EXPECT_TRUE(instance.count(inp_kw_Import));  // only an instance allows *IMPORT below it
     EXPECT_FALSE(part.count(inp_kw_Import));
 
     // What only an instance allows stays out of the assembly list; what both allow is in.
-    for (int onlyInstance : {inp_kw_Import, inp_kw_Ncopy, inp_kw_Ngen, inp_kw_SolidSection, inp_kw_Instance})
+    for (int onlyInstance :
+         {inp_kw_Import, inp_kw_Ncopy, inp_kw_Ngen, inp_kw_SolidSection, inp_kw_Instance})
         EXPECT_FALSE(assembly.count(onlyInstance)) << onlyInstance;
-    for (int both : {inp_kw_Nset, inp_kw_Orientation, inp_kw_Tie}) EXPECT_TRUE(assembly.count(both)) << both;
+    for (int both : {inp_kw_Nset, inp_kw_Orientation, inp_kw_Tie})
+        EXPECT_TRUE(assembly.count(both)) << both;
     EXPECT_TRUE(assembly.count(inp_kw_Surface) && assembly.count(inp_kw_Node));
 
     for (int k : table().AllKeywordsBelow(inp_kw_Step)) EXPECT_TRUE(model.count(k));
@@ -131,7 +138,8 @@ TEST(KeywordTableBelow, TheFourNamedLists) {
 }
 
 TEST(KeywordTableNames, EnumListToString) {
-    EXPECT_EQ(table().KeywordEnum2String(cow_List<int>{inp_kw_Node, inp_kw_Element}), "node, element");
+    EXPECT_EQ(table().KeywordEnum2String(cow_List<int>{inp_kw_Node, inp_kw_Element}),
+              "node, element");
     EXPECT_EQ(table().KeywordEnum2String(cow_List<int>()), "");
 }
 

@@ -14,7 +14,9 @@ cow_String printed(inp_Keyword const& keyword, bool withSuboptions = true) {
     return out.Str();
 }
 
-inp_Item text(char const* value) { return inp_Item(cow_String(value)); }
+inp_Item text(char const* value) {
+    return inp_Item(cow_String(value));
+}
 
 }  // namespace
 

@@ -66,17 +66,35 @@ TEST(RawDataType, ScanFollowsTheCountingRules) {
         char const* text;
         inp_Types::typeEnm type;
     } cases[] = {
-        {"17", T::inp_INTEGER},        {" -17 ", T::inp_INTEGER},     {"+", T::inp_INTEGER},
-        {"-", T::inp_INTEGER},         {"123456789", T::inp_INTEGER}, {"1234567890", T::inp_REAL},
-        {"-1234567890", T::inp_REAL},  {"1e5", T::inp_REAL},          {"1.5", T::inp_REAL},
-        {".", T::inp_REAL},            {"+.", T::inp_REAL},           {"1-2", T::inp_REAL},
-        {"1.5D3", T::inp_REAL},        {"-1.5e-3", T::inp_REAL},      {"e5", T::inp_STRING},
-        {"D1", T::inp_STRING},         {"+e5", T::inp_REAL},        {"1e5e", T::inp_STRING},
-        {"1.2.3", T::inp_STRING},      {"1+2-3", T::inp_STRING},      {"abc", T::inp_STRING},
-        {"1.e5e", T::inp_STRING},      {"", T::inp_NONE},             {" \t\r", T::inp_NONE},
-        {"12 3", T::inp_INTEGER},      {"\"1\"", T::inp_STRING},
+        {"17", T::inp_INTEGER},
+        {" -17 ", T::inp_INTEGER},
+        {"+", T::inp_INTEGER},
+        {"-", T::inp_INTEGER},
+        {"123456789", T::inp_INTEGER},
+        {"1234567890", T::inp_REAL},
+        {"-1234567890", T::inp_REAL},
+        {"1e5", T::inp_REAL},
+        {"1.5", T::inp_REAL},
+        {".", T::inp_REAL},
+        {"+.", T::inp_REAL},
+        {"1-2", T::inp_REAL},
+        {"1.5D3", T::inp_REAL},
+        {"-1.5e-3", T::inp_REAL},
+        {"e5", T::inp_STRING},
+        {"D1", T::inp_STRING},
+        {"+e5", T::inp_REAL},
+        {"1e5e", T::inp_STRING},
+        {"1.2.3", T::inp_STRING},
+        {"1+2-3", T::inp_STRING},
+        {"abc", T::inp_STRING},
+        {"1.e5e", T::inp_STRING},
+        {"", T::inp_NONE},
+        {" \t\r", T::inp_NONE},
+        {"12 3", T::inp_INTEGER},
+        {"\"1\"", T::inp_STRING},
     };
-    for (Case const& c : cases) EXPECT_EQ(inp_RawDataArrayImpl::Type(c.text), c.type) << '"' << c.text << '"';
+    for (Case const& c : cases)
+        EXPECT_EQ(inp_RawDataArrayImpl::Type(c.text), c.type) << '"' << c.text << '"';
 }
 
 TEST(RawDataType, NoByteSequenceUpsetsTheScan) {
@@ -107,9 +125,10 @@ TEST(RawDataConversion, AsDoubleRewritesTheExponentLetterInPlace) {
 }
 
 TEST(RawDataConversion, NumbersReadAsTheCLibraryReadsThem) {
-    char const* texts[] = {" 12", "+5", "-0", "1e", "5.", ".5", ".", "+.", "1.5e3x", "0x10", "inf", "-nan", "1e999",
-                           "12abc", "+-1", "-+1", "", "  7  ", "2147483648", "99999999999", "-2147483649",
-                           "00000000012", "1-2"};
+    char const* texts[] = {
+        " 12",    "+5",    "-0",         "1e",          "5.",          ".5",          ".",   "+.",
+        "1.5e3x", "0x10",  "inf",        "-nan",        "1e999",       "12abc",       "+-1", "-+1",
+        "",       "  7  ", "2147483648", "99999999999", "-2147483649", "00000000012", "1-2"};
     for (char const* text : texts) {
         inp_RawDataArrayImpl data;
         data.AppendRaw(text);

@@ -16,12 +16,15 @@ namespace {
 using Matcher = inp_PatternMatch (*)(std::string_view) noexcept;
 
 TEST(InpTypesPatterns, TextsAreExactlyAsHandedToTheEngine) {
-    EXPECT_STREQ(inp_Types::stringPat(), R"(^[ \t]*([a-zA-Z_][^,=\n]*?)[ \t]*$|^[ \t]*("[^"\n]*")[ \t]*$)");
+    EXPECT_STREQ(inp_Types::stringPat(),
+                 R"(^[ \t]*([a-zA-Z_][^,=\n]*?)[ \t]*$|^[ \t]*("[^"\n]*")[ \t]*$)");
     EXPECT_STREQ(inp_Types::integerPat(), R"(^[ \t]*([-+]?[0-9]+)[ \t]*$)");
-    EXPECT_STREQ(inp_Types::doublePat(),
-                 R"(^[ \t]*([-+]?[0-9]*\.[0-9]*)[ \t]*$|^[ \t]*([-+]?[0-9]*\.?[0-9]*[eE][-+]?[0-9]+)[ \t]*$)");
-    EXPECT_STREQ(inp_Types::doublePatD(),
-                 R"(^[ \t]*([-+]?[0-9]*\.[0-9]*)[ \t]*$|^[ \t]*([-+]?[0-9]*\.?[0-9]*[dD][-+]?[0-9]+)[ \t]*$)");
+    EXPECT_STREQ(
+        inp_Types::doublePat(),
+        R"(^[ \t]*([-+]?[0-9]*\.[0-9]*)[ \t]*$|^[ \t]*([-+]?[0-9]*\.?[0-9]*[eE][-+]?[0-9]+)[ \t]*$)");
+    EXPECT_STREQ(
+        inp_Types::doublePatD(),
+        R"(^[ \t]*([-+]?[0-9]*\.[0-9]*)[ \t]*$|^[ \t]*([-+]?[0-9]*\.?[0-9]*[dD][-+]?[0-9]+)[ \t]*$)");
     EXPECT_STREQ(inp_Types::paramPat(), R"(^[ \t]*([a-zA-Z][-a-zA-Z0-9 \t]*?[a-zA-Z0-9]*)[ \t]*$)");
     // The last bracket holds a real newline character.
     EXPECT_STREQ(inp_Types::setNamePat(),
@@ -37,8 +40,8 @@ TEST(InpTypesPatterns, TextsAreExactlyAsHandedToTheEngine) {
 }
 
 // Callers compare the numbers.
-static_assert(inp_Types::inp_INTEGER == 0 && inp_Types::inp_BOOLEAN == 1 && inp_Types::inp_REAL == 2 &&
-              inp_Types::inp_STRING == 3 && inp_Types::inp_NONE == 4);
+static_assert(inp_Types::inp_INTEGER == 0 && inp_Types::inp_BOOLEAN == 1 &&
+              inp_Types::inp_REAL == 2 && inp_Types::inp_STRING == 3 && inp_Types::inp_NONE == 4);
 
 std::string printable(std::string_view text) {
     std::string out = "\"";
@@ -53,7 +56,8 @@ std::string printable(std::string_view text) {
 
 // Up to `count` distinct texts of 0 to 12 characters (a little more when a
 // token runs over), each a run of tokens drawn at random.
-std::vector<std::string> textsFromTokens(std::vector<std::string> const& tokens, size_t count, unsigned seed) {
+std::vector<std::string> textsFromTokens(std::vector<std::string> const& tokens, size_t count,
+                                         unsigned seed) {
     std::mt19937 random(seed);
     std::unordered_set<std::string> seen;
     std::vector<std::string> out;
@@ -77,13 +81,16 @@ std::vector<std::string> charactersOf(std::string_view alphabet) {
 std::vector<std::string> const& generatedTexts() {
     static std::vector<std::string> const texts = [] {
         // Ends in a zero byte of its own, besides the terminating one.
-        static constexpr char alphabet[] = "aAbzZeEdDuUvVx_0159.,=\"+- \t\n/$%#;:*()'\\\r\x80\xe9\xff\0";
-        std::vector<std::string> single = charactersOf(std::string_view(alphabet, sizeof alphabet - 1));
+        static constexpr char alphabet[] =
+            "aAbzZeEdDuUvVx_0159.,=\"+- \t\n/$%#;:*()'\\\r\x80\xe9\xff\0";
+        std::vector<std::string> single =
+            charactersOf(std::string_view(alphabet, sizeof alphabet - 1));
         std::vector<std::string> out = textsFromTokens(single, 100000, 20240611);
         std::vector<std::string> words = {
-            "a", "Part-1", "_x", "e", "E", "d", "D", "Z", "z", "U", "vu", "1", "42", "007", ".", "..", ",", "=",
-            "\"", "\"ab\"", "\"a b\"", "\"\"", "+", "-", " ", "\t", "\n", "/", "$", "%", "x.y", "7.8E3", "1d2",
-            "\xc3\xa9", "\r", "a,b", "\".\""};
+            "a",       "Part-1", "_x",  "e",        "E",  "d",   "D",    "Z", "z",  "U",
+            "vu",      "1",      "42",  "007",      ".",  "..",  ",",    "=", "\"", "\"ab\"",
+            "\"a b\"", "\"\"",   "+",   "-",        " ",  "\t",  "\n",   "/", "$",  "%",
+            "x.y",     "7.8E3",  "1d2", "\xc3\xa9", "\r", "a,b", "\".\""};
         for (std::string& text : textsFromTokens(words, 100000, 7)) out.push_back(std::move(text));
         return out;
     }();
@@ -92,13 +99,90 @@ std::vector<std::string> const& generatedTexts() {
 
 std::vector<std::string> const& handPickedTexts() {
     static std::vector<std::string> const texts = {
-        "", " ", "\t \t", "a", " a ", "a ", "a\t", "_", "1", "+", "-", "+1", "-0", "1 2", "\"\"", "\" \"", "\"a\"",
-        "\"a\".\"b\"", "\"a\"b", "\"a\".b", "a.\"b\"", "a.\"\"", "\"\".a", "\"a,b\"", "\"a,b\".c", "a,b", "a=b",
-        "a.", "a..b", ".a", "a.1", "a.17", "Part-1.17", "\"my part\".17", "\"my part\".\"my set\"", "a.b.7",
-        "a,b.7", "a\n.7", "a.\n7", "\"a\nb\".7", "1.2.3", "1.7", "1e5", "e5", ".e5", "1.e5", "1.5e", "+.", ".",
-        "5.", ".5", "1.5D+3", "1.5d3", "3d2", "d2", "1-2", "1a.txt", "/tmp/a.inp", "$HOME/x", "%x", "x y  z",
-        "a - b", "a-", "a--b", "Z12", "z", "Z", "VVU3", "u7", "U", "vU", "a\r", "\ra", "a \"b\" c", "\"a\"\"b\"",
-        "\"a\" . \"b\"", "a.\"b\".c", "a.\"b\"c", "\"a\".\"b\".7", "a.b.", "\xe9t\xe9", "a\xff", "a\n", "\na",
+        "",
+        " ",
+        "\t \t",
+        "a",
+        " a ",
+        "a ",
+        "a\t",
+        "_",
+        "1",
+        "+",
+        "-",
+        "+1",
+        "-0",
+        "1 2",
+        "\"\"",
+        "\" \"",
+        "\"a\"",
+        "\"a\".\"b\"",
+        "\"a\"b",
+        "\"a\".b",
+        "a.\"b\"",
+        "a.\"\"",
+        "\"\".a",
+        "\"a,b\"",
+        "\"a,b\".c",
+        "a,b",
+        "a=b",
+        "a.",
+        "a..b",
+        ".a",
+        "a.1",
+        "a.17",
+        "Part-1.17",
+        "\"my part\".17",
+        "\"my part\".\"my set\"",
+        "a.b.7",
+        "a,b.7",
+        "a\n.7",
+        "a.\n7",
+        "\"a\nb\".7",
+        "1.2.3",
+        "1.7",
+        "1e5",
+        "e5",
+        ".e5",
+        "1.e5",
+        "1.5e",
+        "+.",
+        ".",
+        "5.",
+        ".5",
+        "1.5D+3",
+        "1.5d3",
+        "3d2",
+        "d2",
+        "1-2",
+        "1a.txt",
+        "/tmp/a.inp",
+        "$HOME/x",
+        "%x",
+        "x y  z",
+        "a - b",
+        "a-",
+        "a--b",
+        "Z12",
+        "z",
+        "Z",
+        "VVU3",
+        "u7",
+        "U",
+        "vU",
+        "a\r",
+        "\ra",
+        "a \"b\" c",
+        "\"a\"\"b\"",
+        "\"a\" . \"b\"",
+        "a.\"b\".c",
+        "a.\"b\"c",
+        "\"a\".\"b\".7",
+        "a.b.",
+        "\xe9t\xe9",
+        "a\xff",
+        "a\n",
+        "\na",
     };
     return texts;
 }
@@ -114,7 +198,9 @@ struct NamedPattern {
     std::vector<std::string> seeds;
 };
 
-void PrintTo(NamedPattern const& named, std::ostream* out) { *out << named.name; }
+void PrintTo(NamedPattern const& named, std::ostream* out) {
+    *out << named.name;
+}
 
 // Each seed with one to three random edits: a token inserted, a character
 // replaced by a token, or a character removed.
@@ -129,9 +215,15 @@ std::vector<std::string> mutationsOf(NamedPattern const& pattern, size_t count, 
             size_t at = text.empty() ? 0 : random() % (text.size() + 1);
             std::string const& token = tokens[random() % tokens.size()];
             switch (random() % 3) {
-                case 0: text.insert(at, token); break;
-                case 1: if (at < text.size()) text.replace(at, 1, token); break;
-                default: if (at < text.size()) text.erase(at, 1); break;
+                case 0:
+                    text.insert(at, token);
+                    break;
+                case 1:
+                    if (at < text.size()) text.replace(at, 1, token);
+                    break;
+                default:
+                    if (at < text.size()) text.erase(at, 1);
+                    break;
             }
         }
         if (seen.insert(text).second) out.push_back(std::move(text));
@@ -140,7 +232,7 @@ std::vector<std::string> mutationsOf(NamedPattern const& pattern, size_t count, 
 }
 
 class InpPatternMatchersAgreeWithRegex : public ::testing::TestWithParam<NamedPattern> {
-protected:
+  protected:
     // Compares the matcher with the engine on every text; reports the first
     // few disagreements in full rather than failing a hundred thousand times.
     static int expectAgreement(NamedPattern const& pattern, std::vector<std::string> const& texts) {
@@ -148,22 +240,29 @@ protected:
         int matches = 0;
         std::string report;
         for (std::string const& text : texts) {
-            rgx_ReIterator expected = rgx_match(cow_String(std::string_view(text)), pattern.pattern);
+            rgx_ReIterator expected =
+                rgx_match(cow_String(std::string_view(text)), pattern.pattern);
             inp_PatternMatch actual = pattern.matcher(text);
             matches += expected.Matched();
-            if (actual.matched == expected.Matched() && actual.text == expected.String().View()) continue;
+            if (actual.matched == expected.Matched() && actual.text == expected.String().View())
+                continue;
             if (++disagreements <= 10)
-                report += printable(text) + ": engine " + (expected ? printable(expected.String().View()) : "no") +
-                          ", matcher " + (actual ? printable(actual.text) : "no") + "\n";
+                report += printable(text) + ": engine " +
+                          (expected ? printable(expected.String().View()) : "no") + ", matcher " +
+                          (actual ? printable(actual.text) : "no") + "\n";
         }
         EXPECT_EQ(disagreements, 0) << report;
         return matches;
     }
 };
 
-TEST_P(InpPatternMatchersAgreeWithRegex, OnHandPickedTexts) { expectAgreement(GetParam(), handPickedTexts()); }
+TEST_P(InpPatternMatchersAgreeWithRegex, OnHandPickedTexts) {
+    expectAgreement(GetParam(), handPickedTexts());
+}
 
-TEST_P(InpPatternMatchersAgreeWithRegex, OnGeneratedTexts) { expectAgreement(GetParam(), generatedTexts()); }
+TEST_P(InpPatternMatchersAgreeWithRegex, OnGeneratedTexts) {
+    expectAgreement(GetParam(), generatedTexts());
+}
 
 TEST_P(InpPatternMatchersAgreeWithRegex, OnTextsNearThePattern) {
     std::vector<std::string> texts = textsFromTokens(GetParam().nearTokens, 50000, 1234);
@@ -176,51 +275,81 @@ TEST_P(InpPatternMatchersAgreeWithRegex, OnTextsNearThePattern) {
 using Texts = std::vector<std::string>;
 
 Texts nameTokens() {
-    return {"a", "Z", "_", "x1", "-", ".", ".", "\"", "\"", "\"q\"", "\"a b\"", "\"\"", " ", "\t", "\n", ",", "=",
-            "7", "42", "/", "$", "%", "\xe9", "\r", "e", "d"};
+    return {"a",  "Z",  "_", "x1", "-", ".",  ".", "\"", "\"", "\"q\"", "\"a b\"", "\"\"", " ",
+            "\t", "\n", ",", "=",  "7", "42", "/", "$",  "%",  "\xe9",  "\r",      "e",    "d"};
 }
 
 Texts nameSeeds() {
-    return {"a", " Part-1 ", "_x.y", "\"my part\".\"my set\"", "a.\"b,c\".d", "\"a\"", "x y\t", "1a.txt",
-            "/tmp/a.inp", "$H/%x", "\"a=b\"", "a.b.c", "\"q\".r.\"s\""};
+    return {"a",
+            " Part-1 ",
+            "_x.y",
+            "\"my part\".\"my set\"",
+            "a.\"b,c\".d",
+            "\"a\"",
+            "x y\t",
+            "1a.txt",
+            "/tmp/a.inp",
+            "$H/%x",
+            "\"a=b\"",
+            "a.b.c",
+            "\"q\".r.\"s\""};
 }
 
-Texts numberTokens() { return charactersOf("0159+-..eEdD \t\n,x"); }
+Texts numberTokens() {
+    return charactersOf("0159+-..eEdD \t\n,x");
+}
 
 Texts numberSeeds() {
-    return {"1", "+5", " -12 ", "1.5", ".5", "5.", ".", "-.", "1e5", "1.5E-3", "e5", "2d3", "1.5D+3", ".d1", "\t7.8E3"};
+    return {"1",   "+5",     " -12 ", "1.5", ".5",     "5.",  ".",      "-.",
+            "1e5", "1.5E-3", "e5",    "2d3", "1.5D+3", ".d1", "\t7.8E3"};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     EachPattern, InpPatternMatchersAgreeWithRegex,
     ::testing::Values(
-        NamedPattern{"string", inp_Types::stringPat(), &inp_PatternMatchers::MatchString, nameTokens(), nameSeeds()},
+        NamedPattern{"string", inp_Types::stringPat(), &inp_PatternMatchers::MatchString,
+                     nameTokens(), nameSeeds()},
         NamedPattern{"integer", inp_Types::integerPat(), &inp_PatternMatchers::MatchInteger,
                      charactersOf("0123456789+- \t.e\n,x"), numberSeeds()},
-        NamedPattern{"double", inp_Types::doublePat(), &inp_PatternMatchers::MatchDouble, numberTokens(),
-                     numberSeeds()},
-        NamedPattern{"doubleD", inp_Types::doublePatD(), &inp_PatternMatchers::MatchDoubleD, numberTokens(),
-                     numberSeeds()},
-        NamedPattern{"param", inp_Types::paramPat(), &inp_PatternMatchers::MatchParam,
-                     charactersOf("aZq09-- \t\t_.\n=,\""), {"a", "elset", " Nset-Name 2 ", "a - b\t", "X9"}},
-        NamedPattern{"setName", inp_Types::setNamePat(), &inp_PatternMatchers::MatchSetName, nameTokens(),
-                     nameSeeds()},
-        NamedPattern{"scopedID", inp_Types::scopedIDPat(), &inp_PatternMatchers::MatchScopedID,
-                     {"a", "_b", "Part-1", "\"", "\"x\"", "\"a b\"", "\"\"", ".", ".", "7", "42", "0", " ", "\t",
-                      "\n", ",", "=", "e", "\"\n\""},
-                     {"17", " Part-1.17 ", "a.b.7", "\"my part\".17", "\"a.b\".c.0", "a,b.5", "x y.\"z\".12"}},
-        NamedPattern{"fileName", inp_Types::fileNamePat(), &inp_PatternMatchers::MatchFileName, nameTokens(),
-                     nameSeeds()},
-        NamedPattern{"superelementID", inp_Types::superelementIDPat(), &inp_PatternMatchers::MatchSuperelementID,
-                     charactersOf("zZ0199 \tuU+"), {"Z1", " z204 ", "Z0\t"}},
-        NamedPattern{"userElementID", inp_Types::userElementIDPat(), &inp_PatternMatchers::MatchUserElementID,
-                     charactersOf("vVuU0199 \tz"), {"U1", "VU12", " vvu3 ", "VvVU0"}}),
-    [](::testing::TestParamInfo<NamedPattern> const& info) { return std::string(info.param.name); });
+        NamedPattern{"double", inp_Types::doublePat(), &inp_PatternMatchers::MatchDouble,
+                     numberTokens(), numberSeeds()},
+        NamedPattern{"doubleD", inp_Types::doublePatD(), &inp_PatternMatchers::MatchDoubleD,
+                     numberTokens(), numberSeeds()},
+        NamedPattern{"param",
+                     inp_Types::paramPat(),
+                     &inp_PatternMatchers::MatchParam,
+                     charactersOf("aZq09-- \t\t_.\n=,\""),
+                     {"a", "elset", " Nset-Name 2 ", "a - b\t", "X9"}},
+        NamedPattern{"setName", inp_Types::setNamePat(), &inp_PatternMatchers::MatchSetName,
+                     nameTokens(), nameSeeds()},
+        NamedPattern{"scopedID",
+                     inp_Types::scopedIDPat(),
+                     &inp_PatternMatchers::MatchScopedID,
+                     {"a", "_b", "Part-1", "\"", "\"x\"", "\"a b\"", "\"\"", ".", ".", "7", "42",
+                      "0", " ", "\t", "\n", ",", "=", "e", "\"\n\""},
+                     {"17", " Part-1.17 ", "a.b.7", "\"my part\".17", "\"a.b\".c.0", "a,b.5",
+                      "x y.\"z\".12"}},
+        NamedPattern{"fileName", inp_Types::fileNamePat(), &inp_PatternMatchers::MatchFileName,
+                     nameTokens(), nameSeeds()},
+        NamedPattern{"superelementID",
+                     inp_Types::superelementIDPat(),
+                     &inp_PatternMatchers::MatchSuperelementID,
+                     charactersOf("zZ0199 \tuU+"),
+                     {"Z1", " z204 ", "Z0\t"}},
+        NamedPattern{"userElementID",
+                     inp_Types::userElementIDPat(),
+                     &inp_PatternMatchers::MatchUserElementID,
+                     charactersOf("vVuU0199 \tz"),
+                     {"U1", "VU12", " vvu3 ", "VvVU0"}}),
+    [](::testing::TestParamInfo<NamedPattern> const& info) {
+        return std::string(info.param.name);
+    });
 
 // The captures that callers rely on, stated outright.
 TEST(InpPatternMatchersCaptures, SetNameIsTheWholeChainWithoutOuterBlanks) {
     EXPECT_EQ(inp_PatternMatchers::MatchSetName("  Part-1.top \t").text, "Part-1.top");
-    EXPECT_EQ(inp_PatternMatchers::MatchSetName("\"my part\".\"my set\"").text, "\"my part\".\"my set\"");
+    EXPECT_EQ(inp_PatternMatchers::MatchSetName("\"my part\".\"my set\"").text,
+              "\"my part\".\"my set\"");
     EXPECT_EQ(inp_PatternMatchers::MatchSetName("\"a,b\".c").text, "\"a,b\".c");
     EXPECT_FALSE(inp_PatternMatchers::MatchSetName("\"\""));
     // An unquoted name swallows periods, digits and quotes ...

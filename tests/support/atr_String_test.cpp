@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 TEST(AtrFormat, PlainPlaceholdersTakeArgumentsInTurn) {
-    EXPECT_EQ(atr("Include file \"%s\" does not exist.", "a.inp"), "Include file \"a.inp\" does not exist.");
-    EXPECT_EQ(atr("%s at line %d of %s", cow_String("*NODE"), 12, "deck.inp"), "*NODE at line 12 of deck.inp");
+    EXPECT_EQ(atr("Include file \"%s\" does not exist.", "a.inp"),
+              "Include file \"a.inp\" does not exist.");
+    EXPECT_EQ(atr("%s at line %d of %s", cow_String("*NODE"), 12, "deck.inp"),
+              "*NODE at line 12 of deck.inp");
     EXPECT_EQ(atr("100%% sure: %d", 3), "100% sure: 3");
 }
 

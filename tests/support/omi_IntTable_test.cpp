@@ -48,8 +48,8 @@ TEST(OmiIntTableLabels, SparseAndNegativeLabelsComeOutAscending) {
     for (int label : {999999999, 5000, INT_MAX, -1, 0, INT_MIN, 123456789, -999999999, 1}) {
         table.Insert(label, label / 2);
     }
-    EXPECT_EQ(KeysOf(table),
-              (std::vector<int>{INT_MIN, -999999999, -1, 0, 1, 5000, 123456789, 999999999, INT_MAX}));
+    EXPECT_EQ(KeysOf(table), (std::vector<int>{INT_MIN, -999999999, -1, 0, 1, 5000, 123456789,
+                                               999999999, INT_MAX}));
     EXPECT_EQ(table.MinKey(), INT_MIN);
     EXPECT_EQ(table.MaxKey(), INT_MAX);
     EXPECT_EQ(*table.Lookup(-999999999), -999999999 / 2);

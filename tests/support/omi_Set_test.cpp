@@ -34,7 +34,8 @@ TEST(OmiSetMembers, WalkIsAscendingOverSparseAndNegativeValues) {
     for (int value : {999999999, 2, INT_MIN, -1, 0, INT_MAX, 1, -999999999, 1024, 1023}) {
         set.Insert(value);
     }
-    std::vector<int> const expected{INT_MIN, -999999999, -1, 0, 1, 2, 1023, 1024, 999999999, INT_MAX};
+    std::vector<int> const expected{INT_MIN, -999999999, -1,   0,         1,
+                                    2,       1023,       1024, 999999999, INT_MAX};
     EXPECT_EQ(MembersOf(set), expected);
 
     omi_SetIT it(set);
@@ -64,7 +65,8 @@ TEST(OmiBlkBitVectBits, FarBitsAreSetTestedAndWalked) {
     EXPECT_FALSE(bits.Test(999999998));
 
     std::vector<uint32_t> walked;
-    for (omi_BlkBitVectTrav trav(bits); !trav.IsDone(); trav.Next()) walked.push_back(trav.Current());
+    for (omi_BlkBitVectTrav trav(bits); !trav.IsDone(); trav.Next())
+        walked.push_back(trav.Current());
     EXPECT_EQ(walked, (std::vector<uint32_t>{0, 999999999, UINT32_MAX}));
 
     EXPECT_TRUE(bits.Clear(0));

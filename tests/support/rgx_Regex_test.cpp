@@ -72,7 +72,9 @@ TEST(RgxSplit, WithoutMatchGivesTheTextAlone) {
     EXPECT_EQ(rgx_split("", ","), listOf({""}));
 }
 
-TEST(RgxSplit, EmptyMatchesSplitBetweenCharacters) { EXPECT_EQ(rgx_split("ab", "x*"), listOf({"", "a", "b", ""})); }
+TEST(RgxSplit, EmptyMatchesSplitBetweenCharacters) {
+    EXPECT_EQ(rgx_split("ab", "x*"), listOf({"", "a", "b", ""}));
+}
 
 TEST(RgxJoin, PutsTheSeparatorBetweenPieces) {
     EXPECT_EQ(rgx_join(listOf({"a", "", "b"}), ", "), "a, , b");
