@@ -1,0 +1,45 @@
+#include "pipeline/inp_InputFile.h"
+
+#include "deck/inp_QuotedText.h"
+#include "parser/inp_Parser.h"
+#include "support/eli_eostream.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
+
+void inp_InputFile::Parse(cow_String fileName) {
+    m_fileName = fileName;
+    inp_Parser parser(fileName, m_includePath, cow_List<cow_String>(), cow_String(), /*strictDecryption=*/true,
+                      /*bulk=*/true, /*forScripting=*/false);
+    m_keywords = parser.Parse(/*strict=*/true);
+    m_includedFiles = parser.GetIncludedFiles();
+    m_missingIncludeFiles = parser.GetMissingIncludeFiles();
+
+    wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
+    if (!parser.GetFatalErrors().IsEmpty()) sink.ErrorList(parser.GetFatalErrors(), wip_LEVEL0);
+    if (!parser.GetErrors().IsEmpty()) sink.ErrorList(parser.GetErrors(), wip_LEVEL1);
+    if (!parser.GetWarnings().IsEmpty()) sink.WarningList(parser.GetWarnings());
+}
+
+void inp_InputFile::Print(eli_eostream& out) const {
+    for (inp_Keyword const& keyword : m_keywords) keyword.Print(out, true);
+}
+
+void inp_InputFile::Print(aio_ostream& out) const {
+    eli_eostream lines(out, 1024);
+    Print(lines);
+}
+
+void inp_InputFile::DiscardEmptyKeywords() {
+    cow_List<inp_Keyword> kept;
+    bool anyBlank = false;
+    for (inp_Keyword const& keyword : m_keywords) {
+        if (keyword.Keyword() == inp_kw_UndefinedKeyword) {
+            anyBlank = true;
+        } else {
+            kept.Append(keyword);
+        }
+    }
+    if (anyBlank) m_keywords = kept;
+}
+
+cow_String inp_InputFile::TakeOutSpacesOutsideQuoted(char const* text) { return inp_TakeOutSpacesOutsideQuoted(text); }

@@ -1,0 +1,74 @@
+#pragma once
+// The driver object of the pipeline: one object stands for one deck of one
+// job and owns everything of it by value. A caller makes one, gives it an
+// include path, calls Parse, and holds a flat keyword list; later stages
+// turn that list into a tree and fill the model maps.
+
+#include "deck/inp_Keyword.h"
+#include "support/cow_List.h"
+#include "support/cow_String.h"
+
+class aio_ostream;
+class eli_eostream;
+
+class inp_InputFile {
+public:
+    inp_InputFile() = default;
+
+    // Reads the deck into the keyword list and hands the parser's diagnostics
+    // to this thread's message sink: fatal errors at level 0, errors at level
+    // 1, then warnings. Returns normally whatever the deck holds; only a deck
+    // file that cannot be opened throws (nex_PrimException<atr_String, 1>).
+    void Parse(cow_String fileName);
+
+    // Writes the keyword list back as deck text, suboptions below their parent.
+    void Print(eli_eostream& out) const;
+    void Print(aio_ostream& out) const;
+
+    // Removes every blanked record (enumerator 0), keeping the order of the rest.
+    void DiscardEmptyKeywords();
+
+    static cow_String TakeOutSpacesOutsideQuoted(char const* text);
+
+    cow_List<inp_Keyword> const& Keywords() const { return m_keywords; }
+    cow_List<inp_Keyword>& GetKeywords() { return m_keywords; }
+    cow_String const& FileName() const { return m_fileName; }
+    // Include names read while parsing, in order, and those not found.
+    cow_List<cow_String> const& GetIncludedFiles() const { return m_includedFiles; }
+    cow_List<cow_String> const& GetMissingIncludeFiles() const { return m_missingIncludeFiles; }
+
+    bool IsRestartJob() const { return m_restartJob; }
+    bool InOdbConverter() const { return m_inOdbConverter; }
+    bool PartModelAllowed() const { return m_partModelAllowed; }
+    bool IsPartsAndAssembly() const { return m_partsAndAssembly; }
+    bool IsParameterized() const { return m_parameterized; }
+    cow_String const& GetIncludePath() const { return m_includePath; }
+
+    // Settings of the caller, made before the stages run.
+    void SetIncludePath(cow_String const& directory) { m_includePath = directory; }
+    void SetInOdbConverter(bool inConverter) { m_inOdbConverter = inConverter; }
+    void SetUseImportedData(bool useImported) { m_useImportedData = useImported; }
+    void SetNumberRestartSteps(int steps) { m_numberRestartSteps = steps; }
+    void SetImportedInstanceNames(cow_List<cow_String> const& names) { m_importedInstanceNames = names; }
+
+private:
+    cow_List<inp_Keyword> m_assemblyElementKeywords;
+    cow_List<inp_Keyword> m_keywords;
+    bool m_partsAndAssembly = false;
+    bool m_fakePartModel = false;
+    bool m_restartJob = false;
+    int m_numberRestartSteps = 0;
+    bool m_plainRestart = false;
+    bool m_importJob = false;
+    bool m_symmetricModelGeneration = false;
+    bool m_mapSolution = false;  // meaningful once the restart classification ran
+    bool m_partModelAllowed = true;
+    bool m_useImportedData = false;
+    bool m_parameterized = false;
+    bool m_inOdbConverter = false;
+    cow_String m_fileName;
+    cow_List<cow_String> m_importedInstanceNames;
+    cow_String m_includePath;
+    cow_List<cow_String> m_includedFiles;
+    cow_List<cow_String> m_missingIncludeFiles;
+};
