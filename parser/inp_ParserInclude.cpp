@@ -63,7 +63,11 @@ cow_List<inp_Keyword> inp_Parser::IncludeFile(inp_Keyword const& include, bool s
     cow_String password;
     cow_String name = includeFileName(include, password);
     if (name.IsEmpty()) throw inp_NoInputParameterException(m_lineNumber, m_fileName);
-    if (name.StartsWith("<") && name.EndsWith(">"))
+    // A bare <name> never gets here: it fits no value pattern, so a strict
+    // parse rejects it as an invalid value and a lenient one reads it as
+    // "None". Written in quotes it arrives, and is recognised inside them.
+    cow_String unquoted = withoutQuotes(name);
+    if (unquoted.StartsWith("<") && unquoted.EndsWith(">"))
         throw inp_ParameterizedIncludeFileException(m_lineNumber, m_fileName, name);
 
     cow_String found = locateIncludeFile(name);
