@@ -10,6 +10,9 @@
 int* cow_NewCount();
 // Takes one reference away; true (and the count freed) if it was the last.
 bool cow_DropReference(int* count) noexcept;
+// Takes one reference away from a count held inside a shared object; true if
+// it was the last. Out of line for the same reason.
+bool cow_DropIsLast(int& refs) noexcept;
 
 // A counted pointer to an owned object. Copies share the object; the last
 // handle deletes it, through T*, so a virtual destructor of T is honoured and

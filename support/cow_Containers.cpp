@@ -9,3 +9,5 @@ bool cow_DropReference(int* count) noexcept {
     delete count;
     return true;
 }
+
+bool cow_DropIsLast(int& refs) noexcept { return --refs == 0; }

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "support/ZELBasAssert.h"
+#include "support/cow_COW.h"
 
 // An indexed sequence with value semantics and copy-on-write storage.
 //
@@ -317,17 +318,15 @@ class cow_List {
         return ::new (memory) Block{1, slot, slot};
     }
     static void releaseBlock(Block* block) noexcept {
-        if (!block || --block->refs > 0) return;
+        if (!block || !cow_DropIsLast(block->refs)) return;
         std::destroy(block->items() + block->lo, block->items() + block->hi);
         block->~Block();
         ::operator delete(block, kBlockAlignment);
     }
     static Table* newTable(int shift, int capacity) {
-        void* memory = ::operator new(
-            kTableHeader +
-            sizeof(Block*) *
-                static_cast<size_t>(
-                    capacity));  // NOLINT(bugprone-sizeof-expression): a table of block pointers
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): a table of block pointers
+        size_t bytes = kTableHeader + sizeof(Block*) * static_cast<size_t>(capacity);
+        void* memory = ::operator new(bytes);
         Table* table = ::new (memory) Table{1, shift, capacity};
         std::fill_n(table->blocks(), capacity, nullptr);
         return table;
@@ -338,7 +337,7 @@ class cow_List {
         ::operator delete(table);
     }
     static void releaseTable(Table* table) noexcept {
-        if (!table || --table->refs > 0) return;
+        if (!table || !cow_DropIsLast(table->refs)) return;
         Block** blocks = table->blocks();
         for (int b = 0; b < table->capacity; ++b) releaseBlock(blocks[b]);
         freeTable(table);
