@@ -73,15 +73,28 @@ char const* inp_Parser::Readline() {
     };
     if (m_endOfFile || eof() || fail()) return endOfFile();
 
-    m_buffer[0] = 0;
-    aio_istream::getline(m_buffer, kMaxLineLength + 1);
-    if (fail()) {
-        // Failing with a full buffer means the line goes on; failing with
-        // nothing read is the end of the file.
-        if (gcount() != kMaxLineLength) return endOfFile();
-        discardRestOfLine();
+    for (;;) {
+        m_buffer[0] = 0;
+        aio_istream::getline(m_buffer, kMaxLineLength + 1);
+        if (fail()) {
+            // Failing with a full buffer means the line goes on; failing with
+            // nothing read is the end of the file.
+            if (gcount() != kMaxLineLength) return endOfFile();
+            discardRestOfLine();
+        }
+        if (m_encrypted || std::strstr(m_buffer, "** encrypted input")) {
+            bool wasHeader = m_headerPending;
+            Decrypt(m_buffer);
+            // The header of an encrypted file carries its working key: it is
+            // read past here, so that it can't become a data line of the
+            // keyword in front of the *INCLUDE and be shown with it.
+            if (wasHeader && !m_headerPending) {
+                ++m_lineNumber;
+                continue;
+            }
+        }
+        break;
     }
-    if (m_encrypted || std::strstr(m_buffer, "** encrypted input")) Decrypt(m_buffer);
     if (m_buffer[0] == 0 && eof()) return endOfFile();
 
     char* line = m_buffer;

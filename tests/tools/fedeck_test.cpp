@@ -1,0 +1,232 @@
+// The program as its users meet it: run as a separate process, judged by its
+// exit status and the exact text it writes.
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "pipeline/inp_InputFile.h"
+#include "support/aio_Stream.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+std::string readFile(fs::path const& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+// Each test gets a directory of its own, which is also the program's working
+// directory, so that decks are named as a user in that directory would.
+class FedeckProgram : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::string pattern = (fs::temp_directory_path() / "fedeck_cli_XXXXXX").string();
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        m_dir = pattern;
+    }
+    void TearDown() override { fs::remove_all(m_dir); }
+
+    void write(std::string const& name, std::string const& text) const {
+        std::ofstream(m_dir / name, std::ios::binary) << text;
+    }
+    fs::path path(std::string const& name) const { return m_dir / name; }
+
+    Outcome run(std::vector<std::string> arguments) const {
+        arguments.insert(arguments.begin(), FEDECK_CLI_PATH);
+        pid_t const child = fork();
+        if (child == 0) runChild(arguments);
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status));
+        return {WEXITSTATUS(status), readFile(m_dir / ".out"), readFile(m_dir / ".err")};
+    }
+
+  private:
+    [[noreturn]] void runChild(std::vector<std::string> const& arguments) const {
+        std::vector<char*> argv;
+        for (std::string const& argument : arguments)
+            argv.push_back(const_cast<char*>(argument.c_str()));
+        argv.push_back(nullptr);
+        if (chdir(m_dir.c_str()) != 0) _exit(127);
+        dup2(open(".out", O_WRONLY | O_CREAT | O_TRUNC, 0644), STDOUT_FILENO);
+        dup2(open(".err", O_WRONLY | O_CREAT | O_TRUNC, 0644), STDERR_FILENO);
+        execv(argv[0], argv.data());
+        _exit(127);
+    }
+
+    fs::path m_dir;
+};
+
+constexpr char kCleanDeck[] = "*HEADING\nplate\n*NODE, NSET=ALL\n1, 0., 0.\n2, 1., 0.\n";
+constexpr char kUnknownKeywordText[] =
+    R"(Unknown keyword "frobnicate". The keyword may be misspelled, obsolete, or invalid.)";
+
+// The keyword list of a deck as the library prints it, encrypted data included.
+std::string parsedKeywords(fs::path const& deck) {
+    inp_InputFile file;
+    file.Parse(cow_String(deck.c_str()));
+    aio_ostringstream out;
+    file.Print(out);
+    return std::string(out.Str().View());
+}
+
+}  // namespace
+
+TEST_F(FedeckProgram, HelpGoesToStandardOutputAndSucceeds) {
+    for (char const* help : {"--help", "help"}) {
+        Outcome const result = run({help});
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.out.rfind("Usage:\n", 0), 0u) << help;
+        EXPECT_NE(result.out.find("level 0 or 2"), std::string::npos);
+        EXPECT_EQ(result.err, "");
+    }
+}
+
+TEST_F(FedeckProgram, UsageErrorsExitWithTwoAndUsageOnStandardError) {
+    write("deck.inp", kCleanDeck);
+    std::vector<std::pair<std::vector<std::string>, std::string>> const cases = {
+        {{}, "fedeck: no command given\n"},
+        {{"lint", "deck.inp"}, "fedeck: unknown command 'lint'\n"},
+        {{"check", "--frob", "deck.inp"}, "fedeck: unknown option '--frob'\n"},
+        {{"check"}, "fedeck: 'check' needs DECK\n"},
+        {{"check", "deck.inp", "other.inp"}, "fedeck: 'check' needs DECK\n"},
+        {{"check", "deck.inp", "--include-dir"}, "fedeck: option '--include-dir' needs a value\n"},
+        {{"tree", "--json", "deck.inp"}, "fedeck: option '--json' does not apply to 'tree'\n"},
+        {{"encrypt", "a", "b"}, "fedeck: 'encrypt' needs a non-empty --password\n"},
+        {{"check", "--until", "mesh", "deck.inp"},
+         "fedeck: unknown stage 'mesh'; known stages: parse\n"},
+    };
+    for (auto const& [arguments, message] : cases) {
+        Outcome const result = run(arguments);
+        EXPECT_EQ(result.status, 2) << message;
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err.rfind(message + "\nUsage:\n", 0), 0u) << result.err;
+    }
+}
+
+TEST_F(FedeckProgram, UnreadableDeckExitsWithTwoAndNoReport) {
+    for (char const* option : {"--json", "--until=parse"}) {
+        Outcome const result = run({"check", option, "missing.inp"});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.out, "");
+        EXPECT_NE(result.err.find("fedeck: cannot read deck: missing.inp\n"), std::string::npos);
+    }
+}
+
+TEST_F(FedeckProgram, CleanDeckSucceedsWithSummaryAndJson) {
+    write("deck.inp", kCleanDeck);
+    Outcome const text = run({"check", "./deck.inp"});
+    EXPECT_EQ(text.status, 0);
+    EXPECT_EQ(text.out, "./deck.inp: 2 keywords, 0 errors, 0 warnings\n");
+    Outcome const json = run({"check", "--json", "deck.inp", "--until", "parse"});
+    EXPECT_EQ(json.status, 0);
+    EXPECT_EQ(json.out,
+              R"({"deck": "deck.inp", "stage": "parse", "keywords": 2, "diagnostics": [], )"
+              R"("includedFiles": [], "missingIncludeFiles": []})"
+              "\n");
+}
+
+TEST_F(FedeckProgram, UnknownKeywordIsAnErrorInTextAndJson) {
+    write("deck.inp", "*FROBNICATE\n*NODE\n1, 0., 0.\n");
+    Outcome const text = run({"check", "deck.inp"});
+    EXPECT_EQ(text.status, 1);
+    EXPECT_EQ(text.out, std::string("deck.inp: error: ") + kUnknownKeywordText +
+                            "\ndeck.inp: 1 keyword, 1 error, 0 warnings\n");
+    Outcome const json = run({"check", "--json", "deck.inp"});
+    EXPECT_EQ(json.status, 1);
+    EXPECT_NE(json.out.find(R"("diagnostics": [{"severity": "error", "level": 1, "text": )"
+                            R"("Unknown keyword \"frobnicate\". The keyword may be misspelled, )"
+                            R"(obsolete, or invalid."}])"),
+              std::string::npos)
+        << json.out;
+}
+
+TEST_F(FedeckProgram, WarningsAloneSucceedAndCarryNoLevel) {
+    write("deck.inp", "*NODE, NSET=A, NSET=B\n1, 0., 0.\n");
+    Outcome const json = run({"check", "--json", "deck.inp"});
+    EXPECT_EQ(json.status, 0);
+    EXPECT_NE(json.out.find(R"({"severity": "warning", "level": null, "text": "in keyword *NODE)"),
+              std::string::npos)
+        << json.out;
+}
+
+TEST_F(FedeckProgram, JsonStaysValidForAnyBytesInNamesAndMessages) {
+    write("a\"b\\c\nd.inp", "*FOO\xFF\n");
+    Outcome const result = run({"check", "--json", "a\"b\\c\nd.inp"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out.rfind(R"({"deck": "a\"b\\c\u000ad.inp")", 0), 0u) << result.out;
+    EXPECT_NE(result.out.find("Unknown keyword \\\"foo\xEF\xBF\xBD\\\""), std::string::npos)
+        << result.out;
+}
+
+TEST_F(FedeckProgram, MissingIncludeIsFatalAndListed) {
+    fs::create_directory(path("inc"));
+    write("inc/part.inp", "*NODE\n1, 0., 0.\n");
+    write("deck.inp", "*HEADING\n*INCLUDE, INPUT=part.inp\n*INCLUDE, INPUT=gone.inp\n");
+    Outcome const found = run({"check", "--json", "--include-dir", "inc", "deck.inp"});
+    EXPECT_EQ(found.status, 1);
+    EXPECT_NE(
+        found.out.find(R"("includedFiles": ["part.inp"], "missingIncludeFiles": ["gone.inp"]})"),
+        std::string::npos)
+        << found.out;
+    Outcome const text = run({"check", "deck.inp"});
+    EXPECT_EQ(text.out,
+              "deck.inp: fatal error: Include file \"part.inp\" does not exist.\n"
+              "deck.inp: fatal error: Include file \"gone.inp\" does not exist.\n"
+              "deck.inp: 1 keyword, 2 errors, 0 warnings\n");
+}
+
+TEST_F(FedeckProgram, TreeOutputParsesBackToTheSameKeywords) {
+    write("part.inp", "*ELEMENT, TYPE=T2D2, ELSET=BARS\n1, 1, 2\n");
+    write("deck.inp", std::string(kCleanDeck) + "*INCLUDE, INPUT=part.inp\n*FROBNICATE\n");
+    Outcome const tree = run({"tree", "deck.inp"});
+    EXPECT_EQ(tree.status, 1);  // printed all the same
+    EXPECT_EQ(tree.err, std::string("deck.inp: error: ") + kUnknownKeywordText + "\n");
+    write("printed.inp", tree.out);
+    Outcome const again = run({"tree", "printed.inp"});
+    EXPECT_EQ(again.status, 0);
+    EXPECT_EQ(again.out, tree.out);
+    EXPECT_EQ(run({"check", "printed.inp"}).out, "printed.inp: 3 keywords, 0 errors, 0 warnings\n");
+}
+
+TEST_F(FedeckProgram, EncryptedIncludeReadsAsThePlainFileButTreeHidesItsData) {
+    write("part.inp", "*NODE, NSET=ALL\n1, 0., 0.\n** between\n*ELEMENT, TYPE=T2D2\n1, 1, 2\n");
+    Outcome const encrypt = run({"encrypt", "--password", "pw", "part.inp", "part.enc"});
+    EXPECT_EQ(encrypt.status, 0) << encrypt.err;
+    EXPECT_EQ(readFile(path("part.enc")).find("NODE"), std::string::npos);
+    write("plain.inp", "*INCLUDE, INPUT=part.inp\n");
+    write("secret.inp", "*INCLUDE, INPUT=part.enc, PASSWORD=pw\n");
+    EXPECT_EQ(run({"check", "secret.inp"}).out, "secret.inp: 2 keywords, 0 errors, 0 warnings\n");
+    EXPECT_EQ(parsedKeywords(path("secret.inp")), parsedKeywords(path("plain.inp")));
+    EXPECT_EQ(run({"tree", "secret.inp"}).out,
+              "*node, nset=ALL\n** data lines from an encrypted file are not shown\n"
+              "*element, type=T2D2\n** data lines from an encrypted file are not shown\n");
+}
+
+TEST_F(FedeckProgram, EncryptFailuresTellUnreadableInputFromOthers) {
+    write("part.inp", "*NODE\n1, 0., 0.\n");
+    Outcome const unreadable = run({"encrypt", "--password=pw", "nothere.inp", "out.enc"});
+    EXPECT_EQ(unreadable.status, 2);
+    EXPECT_EQ(unreadable.err, "fedeck: cannot read input: nothere.inp\n");
+    Outcome const unwritable = run({"encrypt", "--password=pw", "part.inp", "no/dir/out.enc"});
+    EXPECT_EQ(unwritable.status, 1);
+    EXPECT_EQ(unwritable.err.rfind("fedeck: ", 0), 0u);
+}

@@ -1,0 +1,136 @@
+#include "tools/fedeck_Arguments.h"
+
+#include <string_view>
+
+namespace {
+
+struct CommandSpec {
+    std::string_view name;
+    fedeck_Command command;
+    size_t operandCount;
+    std::string_view operandNames;
+};
+
+constexpr CommandSpec kCommands[] = {
+    {"check", fedeck_Command::Check, 1, "DECK"},
+    {"tree", fedeck_Command::Tree, 1, "DECK"},
+    {"encrypt", fedeck_Command::Encrypt, 2, "IN and OUT"},
+};
+
+CommandSpec const& findCommand(std::string_view name) {
+    for (CommandSpec const& spec : kCommands)
+        if (spec.name == name) return spec;
+    throw fedeck_UsageError("unknown command '" + std::string(name) + "'");
+}
+
+// `fedeck help ...`, or --help among the options (an operand after `--` may
+// be named so).
+bool asksForHelp(int argc, char const* const* argv) {
+    if (std::string_view(argv[1]) == "help") return true;
+    for (int i = 1; i < argc; ++i) {
+        std::string_view const argument = argv[i];
+        if (argument == "--") return false;
+        if (argument == "--help" || argument == "-h") return true;
+    }
+    return false;
+}
+
+bool takesOption(fedeck_Command command, std::string_view option) {
+    switch (command) {
+        case fedeck_Command::Check:
+            return option == "--include-dir" || option == "--until" || option == "--json";
+        case fedeck_Command::Tree:
+            return option == "--include-dir";
+        case fedeck_Command::Encrypt:
+            return option == "--password";
+        case fedeck_Command::Help:
+            return false;
+    }
+    return false;
+}
+
+bool isKnownOption(std::string_view option) {
+    return option == "--include-dir" || option == "--until" || option == "--json" ||
+           option == "--password";
+}
+
+class ArgumentReader {
+  public:
+    ArgumentReader(int argc, char const* const* argv, CommandSpec const& spec)
+        : m_argc(argc), m_argv(argv), m_spec(spec) {
+        m_result.command = spec.command;
+    }
+
+    fedeck_Arguments Read() {
+        bool optionsEnded = false;
+        for (m_next = 2; m_next < m_argc;) {
+            std::string_view const argument = m_argv[m_next++];
+            if (!optionsEnded && argument == "--")
+                optionsEnded = true;
+            else if (!optionsEnded && argument.size() > 1 && argument[0] == '-')
+                readOption(argument);
+            else
+                m_result.operands.emplace_back(argument);
+        }
+        checkOperands();
+        return m_result;
+    }
+
+  private:
+    void readOption(std::string_view argument) {
+        size_t const equals = argument.find('=');
+        std::string_view const name = argument.substr(0, equals);
+        if (!isKnownOption(name))
+            throw fedeck_UsageError("unknown option '" + std::string(name) + "'");
+        if (!takesOption(m_spec.command, name))
+            throw fedeck_UsageError("option '" + std::string(name) + "' does not apply to '" +
+                                    std::string(m_spec.name) + "'");
+        if (name == "--json") {
+            if (equals != std::string_view::npos)
+                throw fedeck_UsageError("option '--json' takes no value");
+            m_result.json = true;
+            return;
+        }
+        std::string const value = equals != std::string_view::npos
+                                      ? std::string(argument.substr(equals + 1))
+                                      : takeValue(name);
+        storeValue(name, value);
+    }
+
+    std::string takeValue(std::string_view option) {
+        if (m_next >= m_argc)
+            throw fedeck_UsageError("option '" + std::string(option) + "' needs a value");
+        return m_argv[m_next++];
+    }
+
+    void storeValue(std::string_view option, std::string const& value) {
+        if (option == "--include-dir")
+            m_result.includeDir = value;
+        else if (option == "--until")
+            m_result.until = value;
+        else
+            m_result.password = value;
+    }
+
+    void checkOperands() const {
+        if (m_result.operands.size() != m_spec.operandCount)
+            throw fedeck_UsageError("'" + std::string(m_spec.name) + "' needs " +
+                                    std::string(m_spec.operandNames));
+        if (m_spec.command == fedeck_Command::Encrypt && m_result.password.empty())
+            throw fedeck_UsageError("'encrypt' needs a non-empty --password");
+    }
+
+    int m_argc;
+    char const* const* m_argv;
+    CommandSpec const& m_spec;
+    int m_next = 2;
+    fedeck_Arguments m_result;
+};
+
+}  // namespace
+
+fedeck_Arguments fedeck_ParseArguments(int argc, char const* const* argv) {
+    if (argc < 2) throw fedeck_UsageError("no command given");
+    if (asksForHelp(argc, argv)) return fedeck_Arguments{};
+    return ArgumentReader(argc, argv, findCommand(argv[1])).Read();
+}

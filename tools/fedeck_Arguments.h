@@ -1,0 +1,32 @@
+#pragma once
+// The command line of the program, taken apart but not yet acted on.
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+// A command line the program can't make sense of; what() says why.
+class fedeck_UsageError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class fedeck_Command { Help, Check, Tree, Encrypt };
+
+struct fedeck_Arguments {
+    fedeck_Command command = fedeck_Command::Help;
+    std::string includeDir;
+    std::string until;  // empty: run every stage
+    bool json = false;
+    std::string password;
+    // DECK for check and tree; IN and OUT for encrypt.
+    std::vector<std::string> operands;
+};
+
+// Reads argv[1..argc-1]. Options may stand before or after the operands,
+// as `--name value` or `--name=value`; `--` ends the options. The command
+// `help`, or `--help` or `-h` among the options, asks for help (command Help),
+// whatever else is there. Anything else that is wrong (an unknown command
+// or option, an option the command doesn't take, a missing value, the wrong
+// number of operands) throws fedeck_UsageError.
+fedeck_Arguments fedeck_ParseArguments(int argc, char const* const* argv);

@@ -1,0 +1,175 @@
+#include "tools/fedeck_Commands.h"
+
+#include <new>
+
+#include "pipeline/inp_InputFile.h"
+#include "support/ZELBasException.h"
+#include "support/aio_Stream.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
+#include "tools/fedeck_Arguments.h"
+#include "tools/fedeck_Encrypt.h"
+#include "tools/fedeck_Pipeline.h"
+#include "tools/fedeck_Report.h"
+#include "tools/fedeck_TreePrinter.h"
+
+namespace {
+
+int lastStageToRun(std::string const& until) {
+    if (until.empty()) return static_cast<int>(fedeck_Pipeline::Stages().size()) - 1;
+    int const stage = fedeck_Pipeline::Find(until);
+    if (stage < 0)
+        throw fedeck_UsageError("unknown stage '" + until +
+                                "'; known stages: " + fedeck_Pipeline::StageNames());
+    return stage;
+}
+
+// A deck run through the pipeline, with what the sink collected on the way.
+class CheckedDeck {
+  public:
+    CheckedDeck(fedeck_Arguments const& arguments, int lastStage)
+        : m_path(arguments.operands.front().c_str()) {
+        if (!arguments.includeDir.empty())
+            m_deck.SetIncludePath(cow_String(arguments.includeDir.c_str()));
+        m_stageRun = fedeck_Pipeline::Run(m_deck, m_path, lastStage);
+        m_stoppedEarly = m_stageRun != lastStage;
+    }
+
+    fedeck_Report Report() const {
+        return fedeck_Report(m_path, fedeck_Pipeline::Stages()[m_stageRun].name, m_stoppedEarly,
+                             m_deck, thr_ThreadSingleton<wip_WIP>::Instance().Diagnostics());
+    }
+    inp_InputFile const& Deck() const { return m_deck; }
+
+  private:
+    cow_String m_path;  // as typed: messages name the deck as the user knows it
+    inp_InputFile m_deck;
+    int m_stageRun = 0;
+    bool m_stoppedEarly = false;
+};
+
+int exitStatusOf(fedeck_Report const& report) {
+    return report.HasErrors() ? fedeck_EXIT_ERRORS : fedeck_EXIT_CLEAN;
+}
+
+int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
+    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
+    fedeck_Report const report = checked.Report();
+    if (arguments.json) {
+        report.WriteJson(out);
+    } else {
+        report.WriteDiagnostics(out);
+        report.WriteSummary(out);
+    }
+    return exitStatusOf(report);
+}
+
+// The keyword list goes out even when the deck has errors: what could be read
+// is often what the user wants to see.
+int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
+    CheckedDeck const checked(arguments, lastStageToRun(""));
+    fedeck_Report const report = checked.Report();
+    report.WriteDiagnostics(err);
+    fedeck_TreePrinter::Print(out, checked.Deck().Keywords());
+    return exitStatusOf(report);
+}
+
+int runCommand(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
+    switch (arguments.command) {
+        case fedeck_Command::Help:
+            out.print(fedeck_UsageText());
+            return fedeck_EXIT_CLEAN;
+        case fedeck_Command::Check:
+            return runCheck(arguments, out);
+        case fedeck_Command::Tree:
+            return runTree(arguments, out, err);
+        case fedeck_Command::Encrypt:
+            return fedeck_Encrypt(arguments.operands[0], arguments.operands[1], arguments.password,
+                                  err);
+    }
+    return fedeck_EXIT_INTERNAL;
+}
+
+int reportUsageError(fedeck_UsageError const& error, aio_ostream& err) {
+    err.print("fedeck: ").print(error.what()).put('\n').put('\n').print(fedeck_UsageText());
+    return fedeck_EXIT_USAGE;
+}
+
+int reportInternalError(std::string_view what, aio_ostream& err) {
+    err.print("fedeck: internal error: ").print(what).put('\n');
+    return fedeck_EXIT_INTERNAL;
+}
+
+// Output cut short must not pass for a complete report.
+int checkWritten(int status, aio_ostream& out, aio_ostream& err) {
+    if (!out.flush().bad()) return status;
+    err.print("fedeck: cannot write to standard output\n");
+    return fedeck_EXIT_INTERNAL;
+}
+
+}  // namespace
+
+std::string fedeck_UsageText() {
+    std::string const stages = fedeck_Pipeline::StageNames();
+    std::string const lastStage = fedeck_Pipeline::Stages().back().name;
+    return "Usage:\n"
+           "  fedeck check [--include-dir DIR] [--until STAGE] [--json] DECK\n"
+           "  fedeck tree  [--include-dir DIR] DECK\n"
+           "  fedeck encrypt --password P IN OUT\n"
+           "  fedeck help | --help\n"
+           "\n"
+           "Commands:\n"
+           "  check    Runs the stages of a new job on DECK, up to STAGE, and prints\n"
+           "           each diagnostic, then one summary line:\n"
+           "             DECK: warning: TEXT\n"
+           "             DECK: error: TEXT          an error (level 1)\n"
+           "             DECK: fatal error: TEXT    a fatal error (level 0 or 2)\n"
+           "             DECK: N keywords, E errors, W warnings\n"
+           "           Further lines of a message are indented by four blanks. A stage\n"
+           "           that ends with errors ends the run; the summary then adds\n"
+           "           \"(stopped after STAGE)\".\n"
+           "  tree     Runs every stage on DECK and writes its keywords back as deck\n"
+           "           text to standard output; diagnostics go to standard error.\n"
+           "           Data lines read from an encrypted file are not shown.\n"
+           "  encrypt  Writes IN enciphered to OUT, an include file that a deck reads\n"
+           "           with *INCLUDE, INPUT=OUT, PASSWORD=P.\n"
+           "\n"
+           "Options:\n"
+           "  --include-dir DIR  directory searched for include files that are not\n"
+           "                     found as written\n"
+           "  --until STAGE      last stage to run; one of: " +
+           stages + " (default: " + lastStage +
+           ")\n"
+           "  --json             print one JSON object instead of text:\n"
+           "                     {\"deck\", \"stage\", \"keywords\", \"diagnostics\": "
+           "[{\"severity\",\n"
+           "                     \"level\", \"text\"}], \"includedFiles\", "
+           "\"missingIncludeFiles\"};\n"
+           "                     \"stage\" is the last stage that ran, \"level\" is null for\n"
+           "                     warnings\n"
+           "  --password P       password of the encrypted file (not empty)\n"
+           "\n"
+           "Exit status:\n"
+           "  0  no errors (warnings allowed)\n"
+           "  1  the deck has errors; encrypt: the encrypted file could not be written\n"
+           "  2  usage error, or the deck (encrypt: IN) cannot be read\n"
+           "  3  internal error of the program\n";
+}
+
+int fedeck_Main(int argc, char const* const* argv, aio_ostream& out, aio_ostream& err) {
+    try {
+        return checkWritten(runCommand(fedeck_ParseArguments(argc, argv), out, err), out, err);
+    } catch (fedeck_UsageError const& error) {
+        return reportUsageError(error, err);
+    } catch (fedeck_UnreadableDeck const& error) {
+        err.print("fedeck: cannot read deck: ").print(error.what()).put('\n');
+        return fedeck_EXIT_USAGE;
+    } catch (std::bad_alloc const&) {
+        err.print("fedeck: out of memory\n");
+        return fedeck_EXIT_INTERNAL;
+    } catch (ZELBasException const& error) {
+        return reportInternalError(error.DeveloperReport().View(), err);
+    } catch (std::exception const& error) {
+        return reportInternalError(error.what(), err);
+    }
+}

@@ -1,0 +1,39 @@
+#pragma once
+// The stages of a new job that the program can run, in pipeline order.
+
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "support/cow_String.h"
+
+class inp_InputFile;
+
+// The deck file can't be opened; what() is its path as given.
+class fedeck_UnreadableDeck : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+struct fedeck_Stage {
+    char const* name;
+    // Runs the stage on `deck`; the diagnostics go to this thread's sink.
+    void (*run)(inp_InputFile& deck, cow_String const& deckPath);
+};
+
+class fedeck_Pipeline {
+  public:
+    static std::span<fedeck_Stage const> Stages();
+    // The index of the stage called `name`, or -1.
+    static int Find(std::string_view name);
+    // "a, b, c": the known stage names, for messages.
+    static std::string StageNames();
+
+    // Runs the stages from the first up to `lastStage` and returns the index
+    // of the last one that ran: a stage that leaves errors in the sink ends
+    // the run, as later stages rely on a sound result of the earlier ones.
+    // The sink is cleared first. A deck file that can't be opened throws
+    // fedeck_UnreadableDeck.
+    static int Run(inp_InputFile& deck, cow_String const& deckPath, int lastStage);
+};

@@ -1,0 +1,117 @@
+#include "tools/fedeck_Report.h"
+
+#include <utility>
+
+#include "pipeline/inp_InputFile.h"
+#include "support/aio_Stream.h"
+#include "tools/fedeck_Json.h"
+
+namespace {
+
+constexpr std::string_view kContinuationIndent = "    ";
+
+bool isFatalLevel(int level) {
+    return level == wip_LEVEL0 || level == wip_LEVEL2;
+}
+
+std::string_view severityLabel(wip_Diagnostic const& diagnostic) {
+    if (!diagnostic.isError) return "warning";
+    return isFatalLevel(diagnostic.level) ? "fatal error" : "error";
+}
+
+// Messages may end in a line break of their own; the report adds its own.
+std::string_view withoutTrailingBreaks(std::string_view text) {
+    while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.remove_suffix(1);
+    return text;
+}
+
+void writeIndented(aio_ostream& out, std::string_view text) {
+    for (size_t lineBreak; (lineBreak = text.find('\n')) != std::string_view::npos;) {
+        out.print(text.substr(0, lineBreak + 1)).print(kContinuationIndent);
+        text.remove_prefix(lineBreak + 1);
+    }
+    out.print(text);
+}
+
+void writeCount(aio_ostream& out, int count, std::string_view noun) {
+    out << count << ' ' << noun;
+    if (count != 1) out.put('s');
+}
+
+void writeJsonStrings(aio_ostream& out, cow_List<cow_String> const& texts) {
+    out.put('[');
+    bool first = true;
+    for (cow_String const& text : texts) {
+        if (!first) out.print(", ");
+        first = false;
+        fedeck_WriteJsonString(out, text.View());
+    }
+    out.put(']');
+}
+
+void writeJsonDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) {
+    out.print("{\"severity\": ").print(diagnostic.isError ? "\"error\"" : "\"warning\"");
+    out.print(", \"level\": ");
+    if (diagnostic.isError)
+        out << diagnostic.level;
+    else
+        out.print("null");
+    out.print(", \"text\": ");
+    fedeck_WriteJsonString(out, diagnostic.text.View());
+    out.put('}');
+}
+
+}  // namespace
+
+fedeck_Report::fedeck_Report(cow_String deckPath, std::string_view stage, bool stoppedEarly,
+                             inp_InputFile const& deck,
+                             std::vector<wip_Diagnostic> const& diagnostics)
+    : m_deckPath(std::move(deckPath)),
+      m_stage(stage),
+      m_stoppedEarly(stoppedEarly),
+      m_keywordCount(deck.Keywords().Length()),
+      m_diagnostics(diagnostics),
+      m_includedFiles(deck.GetIncludedFiles()),
+      m_missingIncludeFiles(deck.GetMissingIncludeFiles()) {
+    for (wip_Diagnostic const& diagnostic : m_diagnostics)
+        if (diagnostic.isError) ++m_errorCount;
+}
+
+void fedeck_Report::writeDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) const {
+    out.print(m_deckPath).print(": ").print(severityLabel(diagnostic)).print(": ");
+    writeIndented(out, withoutTrailingBreaks(diagnostic.text.View()));
+    out.put('\n');
+}
+
+void fedeck_Report::WriteDiagnostics(aio_ostream& out) const {
+    for (wip_Diagnostic const& diagnostic : m_diagnostics) writeDiagnostic(out, diagnostic);
+}
+
+void fedeck_Report::WriteSummary(aio_ostream& out) const {
+    out.print(m_deckPath).print(": ");
+    writeCount(out, m_keywordCount, "keyword");
+    out.print(", ");
+    writeCount(out, m_errorCount, "error");
+    out.print(", ");
+    writeCount(out, static_cast<int>(m_diagnostics.size()) - m_errorCount, "warning");
+    if (m_stoppedEarly) out.print(" (stopped after ").print(m_stage).put(')');
+    out.put('\n');
+}
+
+void fedeck_Report::WriteJson(aio_ostream& out) const {
+    out.print("{\"deck\": ");
+    fedeck_WriteJsonString(out, m_deckPath.View());
+    out.print(", \"stage\": ");
+    fedeck_WriteJsonString(out, m_stage);
+    out.print(", \"keywords\": ") << m_keywordCount;
+    out.print(", \"diagnostics\": [");
+    for (size_t i = 0; i < m_diagnostics.size(); ++i) {
+        if (i > 0) out.print(", ");
+        writeJsonDiagnostic(out, m_diagnostics[i]);
+    }
+    out.print("], \"includedFiles\": ");
+    writeJsonStrings(out, m_includedFiles);
+    out.print(", \"missingIncludeFiles\": ");
+    writeJsonStrings(out, m_missingIncludeFiles);
+    out.print("}\n");
+}

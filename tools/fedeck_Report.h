@@ -1,0 +1,51 @@
+#pragma once
+// What a check found, written for people or for scripts. Scripts parse both
+// forms, so the wording and layout below are fixed.
+
+#include <string_view>
+#include <vector>
+
+#include "support/cow_List.h"
+#include "support/cow_String.h"
+#include "support/wip_WIP.h"
+
+class aio_ostream;
+class inp_InputFile;
+
+class fedeck_Report {
+  public:
+    // `deckPath` as the user typed it; `stage` the last stage that ran;
+    // `stoppedEarly` when errors ended the run before the stage asked for.
+    // The diagnostics are referenced, not copied: they must outlive the report.
+    fedeck_Report(cow_String deckPath, std::string_view stage, bool stoppedEarly,
+                  inp_InputFile const& deck, std::vector<wip_Diagnostic> const& diagnostics);
+
+    int ErrorCount() const noexcept { return m_errorCount; }
+    bool HasErrors() const noexcept { return m_errorCount > 0; }
+
+    // One entry per diagnostic, in arrival order:
+    //   DECK: warning: TEXT
+    //   DECK: error: TEXT          (level 1)
+    //   DECK: fatal error: TEXT    (level 0 or 2)
+    // Later lines of a multi-line text are indented by four blanks.
+    void WriteDiagnostics(aio_ostream& out) const;
+    // DECK: N keywords, E errors, W warnings[ (stopped after STAGE)]
+    void WriteSummary(aio_ostream& out) const;
+    // One JSON object on one line:
+    // {"deck": s, "stage": s, "keywords": n, "diagnostics": [{"severity":
+    // "warning"|"error", "level": n|null, "text": s}, ...], "includedFiles":
+    // [s, ...], "missingIncludeFiles": [s, ...]}
+    void WriteJson(aio_ostream& out) const;
+
+  private:
+    void writeDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) const;
+
+    cow_String m_deckPath;
+    std::string_view m_stage;
+    bool m_stoppedEarly;
+    int m_keywordCount;
+    std::vector<wip_Diagnostic> const& m_diagnostics;
+    cow_List<cow_String> m_includedFiles;
+    cow_List<cow_String> m_missingIncludeFiles;
+    int m_errorCount = 0;
+};
