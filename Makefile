@@ -4,7 +4,7 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan bench format tidy clean
+.PHONY: all build run test test-asan bench fuzz format tidy clean
 
 all: build
 
@@ -14,10 +14,9 @@ $(BUILD)/CMakeCache.txt:
 build: $(BUILD)/CMakeCache.txt
 	cmake --build $(BUILD) -j $(JOBS)
 
-# Until the command-line checker exists, `run` builds and runs the fastest
-# subset of the suite: the keyword table and deck model tests.
+# Builds everything, then checks the bundled example deck with the fedeck program.
 run: build
-	ctest --test-dir $(BUILD) -R "^(Keyword|RawData|QuotedText|InpItem|Deck)" --output-on-failure -j $(JOBS)
+	$(BUILD)/fedeck check --include-dir examples examples/beam.inp
 
 test: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
@@ -36,6 +35,23 @@ $(BUILD_REL)/CMakeCache.txt:
 bench: $(BUILD_REL)/CMakeCache.txt
 	cmake --build $(BUILD_REL) -j $(JOBS)
 	for b in $(BUILD_REL)/bench_*; do echo "== $$b"; $$b --benchmark_repetitions=5 --benchmark_report_aggregates_only=true; done
+
+# The parser under libFuzzer for a minute, starting from a copy of the seed
+# corpus so the checked-in seeds stay as they are. A crash, a leak or an
+# uncaught exception stops it with a non-zero status.
+BUILD_FUZZ ?= build-fuzz
+FUZZ_TIME  ?= 60
+
+$(BUILD_FUZZ)/CMakeCache.txt:
+	CXX=clang++ cmake -S . -B $(BUILD_FUZZ) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFEDECK_FUZZ=ON \
+	  -DFEDECK_BUILD_TESTS=OFF -DFEDECK_BUILD_BENCH=OFF
+
+fuzz: $(BUILD_FUZZ)/CMakeCache.txt
+	cmake --build $(BUILD_FUZZ) -j $(JOBS) --target parser_fuzz
+	rm -rf $(BUILD_FUZZ)/corpus && mkdir -p $(BUILD_FUZZ)/corpus && cp fuzz/corpus/* $(BUILD_FUZZ)/corpus/
+	$(BUILD_FUZZ)/parser_fuzz -max_total_time=$(FUZZ_TIME) -max_len=8192 -print_final_stats=1 \
+	  -artifact_prefix=$(BUILD_FUZZ)/ \
+	  $(BUILD_FUZZ)/corpus
 
 SOURCES = $(shell git ls-files '*.h' '*.cpp')
 
