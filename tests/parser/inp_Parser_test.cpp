@@ -6,6 +6,9 @@
 
 #include "TempDeckDirectory.h"
 #include "support/ZELBasException.h"
+#include "support/aio_Stream.h"
+#include "support/pnt_PrettyPrint.h"
+#include "support/typ_DebugFlags.h"
 
 namespace {
 
@@ -240,4 +243,20 @@ TEST_F(ParserErrors, GarbageAndOverlongInputGiveDiagnosticsNotCrashes) {
     ParseResult commaKeyword = parseText("*NODE" + std::string(300, ',') + "\n1\n*ELEMENT\n");
     EXPECT_EQ(commaKeyword.keywords.Length(), 1);
     EXPECT_EQ(commaKeyword.errors.Length(), 1);
+}
+
+TEST_F(ParserLines, DebugLevelsPrintTimingsAndThenEveryKeyword) {
+    aio_ostringstream printed;
+    pnt_debugPrint().SetStream(&printed);
+    cow_String path = dir.Write("deck.inp", "*NODE\n*ELEMENT\n");
+    typ_DebugFlags::SetDebugFlags(30, 1);
+    parse(path);
+    EXPECT_NE(printed.Str().Find("Parse - File: "), -1);
+    EXPECT_EQ(printed.Str().Find("Creating keyword"), -1);
+    typ_DebugFlags::SetDebugFlags(30, 2);
+    parse(path);
+    EXPECT_NE(printed.Str().Find("Creating keyword: \"node\"."), -1);
+    EXPECT_NE(printed.Str().Find("Creating keyword: \"element\"."), -1);
+    typ_DebugFlags::SetDebugFlags(30, 0);
+    pnt_debugPrint().SetStream(nullptr);
 }
