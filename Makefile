@@ -62,4 +62,4 @@ tidy: build
 	clang-tidy -p $(BUILD) --quiet $(filter %.cpp,$(filter-out tests/% bench/%,$(SOURCES)))
 
 clean:
-	rm -rf $(BUILD) $(BUILD_ASAN) $(BUILD_REL)
+	rm -rf $(BUILD) $(BUILD_ASAN) $(BUILD_REL) $(BUILD_FUZZ)

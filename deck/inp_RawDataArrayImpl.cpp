@@ -110,6 +110,16 @@ char* inp_RawDataArrayImpl::copyLine(char const* line, size_t& length) {
 
 int inp_RawDataArrayImpl::splitAtCommas(char* block, size_t length) {
     int columns = 1;
+    // Most lines hold no quote: then every comma separates, and the library's
+    // memchr finds them faster than a loop over the bytes.
+    if (!std::memchr(block, '"', length)) {
+        char* end = block + length;
+        for (char* comma = block; (comma = static_cast<char*>(std::memchr(comma, ',', size_t(end - comma))));) {
+            *comma++ = 0;
+            ++columns;
+        }
+        return columns;
+    }
     bool quoted = false;
     for (size_t k = 0; k < length; ++k) {
         char c = block[k];

@@ -27,6 +27,13 @@ constexpr unsigned kDebugFlag = 30;
 
 bool isLineBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
+// Whether the line holds the marker of an encrypted file. Data lines seldom
+// hold an asterisk at all, so that is looked for first.
+bool hasEncryptionMarker(char const* line) {
+    char const* star = std::strchr(line, '*');
+    return star && std::strstr(star, "** encrypted input");
+}
+
 // Lower case, every blank and tab removed: how keyword and parameter names compare.
 cow_String foldName(std::string_view text) {
     cow_String folded;
@@ -82,7 +89,7 @@ char const* inp_Parser::Readline() {
             if (gcount() != kMaxLineLength) return endOfFile();
             discardRestOfLine();
         }
-        if (m_encrypted || std::strstr(m_buffer, "** encrypted input")) {
+        if (m_encrypted || hasEncryptionMarker(m_buffer)) {
             bool wasHeader = m_headerPending;
             Decrypt(m_buffer);
             // The header of an encrypted file carries its working key: it is

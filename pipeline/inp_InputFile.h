@@ -43,6 +43,15 @@ public:
     bool IsPartsAndAssembly() const { return m_partsAndAssembly; }
     bool IsParameterized() const { return m_parameterized; }
     cow_String const& GetIncludePath() const { return m_includePath; }
+    bool IsFakePartModel() const { return m_fakePartModel; }
+    bool IsPlainRestart() const { return m_plainRestart; }
+    bool IsImportJob() const { return m_importJob; }
+    bool HasSymmetricModelGeneration() const { return m_symmetricModelGeneration; }
+    bool HasMapSolution() const { return m_mapSolution; }
+    bool UsesImportedData() const { return m_useImportedData; }
+    int NumberRestartSteps() const { return m_numberRestartSteps; }
+    cow_List<inp_Keyword> const& AssemblyElementKeywords() const { return m_assemblyElementKeywords; }
+    cow_List<cow_String> const& ImportedInstanceNames() const { return m_importedInstanceNames; }
 
     // Settings of the caller, made before the stages run.
     void SetIncludePath(cow_String const& directory) { m_includePath = directory; }

@@ -1,0 +1,202 @@
+// Parsing whole decks through inp_InputFile::Parse: throughput and the peak
+// memory a parse adds.
+//
+// The decks are generated once into a temporary directory that is removed at
+// exit: a flat block of N^3 bricks (N = 100 by default, about 110 MB), a
+// small flat block, and a part of (N/2)^3 bricks placed as ten instances.
+// FEDECK_BENCH_SIZE=N sets N for quick runs.
+//
+// Counters: MB/s (decimal megabytes of deck per second of wall time),
+// deck_MB, peak_MB (growth of the resident set's high-water mark over one
+// parse, measured in a forked child so that nothing else the process did
+// counts), peak_per_deck (peak_MB / deck_MB), and release_ms (time to free
+// the keyword list afterwards, which the timings leave out).
+
+#include <benchmark/benchmark.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+#include "bench/inp_DeckGenerator.h"
+#include "pipeline/inp_InputFile.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
+
+namespace {
+
+// The directory of the generated decks, removed when main returns.
+class DeckDirectory {
+  public:
+    DeckDirectory() {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "fedeck-bench-XXXXXX").string();
+        if (!mkdtemp(pattern.data()))
+            throw std::runtime_error("cannot create a temporary directory");
+        m_path = pattern;
+    }
+    ~DeckDirectory() {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_path, ignored);
+    }
+    DeckDirectory(DeckDirectory const&) = delete;
+    DeckDirectory& operator=(DeckDirectory const&) = delete;
+
+    std::string Path(std::string const& name) const { return (m_path / name).string(); }
+
+  private:
+    std::filesystem::path m_path;
+};
+
+struct Deck {
+    std::string path;
+    double megabytes = 0;
+    std::optional<double> peakGrowthMegabytes;  // measured once, on first use
+};
+
+// The value of a "Name:   1234 kB" line of /proc/self/status, in bytes; 0 if absent.
+double statusBytes(char const* field) {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    std::size_t const length = std::strlen(field);
+    while (std::getline(status, line))
+        if (line.compare(0, length, field) == 0 && line[length] == ':')
+            return std::strtod(line.c_str() + length + 1, nullptr) * 1024.0;
+    return 0;
+}
+
+// Sets the high-water mark of the resident set back to the current size.
+bool resetPeakResidentSet() {
+    std::ofstream clear("/proc/self/clear_refs");
+    clear << "5";
+    clear.flush();
+    return clear.good();
+}
+
+// Takes the diagnostics of the last parse out of this thread's sink.
+int takeDiagnostics() {
+    wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
+    int const diagnostics = static_cast<int>(sink.Diagnostics().size());
+    sink.Clear();
+    return diagnostics;
+}
+
+// Runs one parse in a child process, whose heap holds nothing left over from
+// earlier parses, and returns how far the resident set's peak rose above its
+// size before the parse. Negative if it couldn't be measured.
+double measurePeakGrowth(std::string const& path) {
+    int channel[2];
+    if (pipe(channel) != 0) return -1;
+    pid_t const child = fork();
+    if (child == 0) {
+        close(channel[0]);
+#ifdef __GLIBC__
+        malloc_trim(0);
+#endif
+        double growth = -1;
+        if (resetPeakResidentSet()) {
+            double const before = statusBytes("VmRSS");
+            inp_InputFile input;
+            input.Parse(cow_String(path.c_str()));
+            growth = statusBytes("VmHWM") - before;
+        }
+        ssize_t const written = write(channel[1], &growth, sizeof growth);
+        _exit(written == sizeof growth ? 0 : 1);
+    }
+    close(channel[1]);
+    double growth = -1;
+    if (child < 0 || read(channel[0], &growth, sizeof growth) != sizeof growth) growth = -1;
+    close(channel[0]);
+    if (child > 0) waitpid(child, nullptr, 0);
+    return growth;
+}
+
+void BM_Parse(benchmark::State& state, Deck* deck) {
+    if (!deck->peakGrowthMegabytes) deck->peakGrowthMegabytes = measurePeakGrowth(deck->path) / 1e6;
+    std::chrono::duration<double> parsing{};
+    std::chrono::duration<double> releasing{};
+    int diagnostics = takeDiagnostics();
+    cow_String const path(deck->path.c_str());
+    for (auto _ : state) {
+        std::optional<inp_InputFile> input(std::in_place);
+        auto const start = std::chrono::steady_clock::now();
+        input->Parse(path);
+        parsing += std::chrono::steady_clock::now() - start;
+        // Freeing millions of data lines is not parsing: keep it out of the figures.
+        state.PauseTiming();
+        diagnostics += takeDiagnostics();
+        auto const released = std::chrono::steady_clock::now();
+        input.reset();
+        releasing += std::chrono::steady_clock::now() - released;
+        state.ResumeTiming();
+    }
+    if (diagnostics > 0) state.SkipWithError("the generated deck caused diagnostics");
+    double const megabytes = deck->megabytes * static_cast<double>(state.iterations());
+    state.SetBytesProcessed(static_cast<int64_t>(megabytes * 1e6));
+    state.counters["MB/s"] = megabytes / parsing.count();
+    state.counters["release_ms"] =
+        releasing.count() * 1e3 / static_cast<double>(state.iterations());
+    state.counters["deck_MB"] = deck->megabytes;
+    state.counters["peak_MB"] = *deck->peakGrowthMegabytes;
+    state.counters["peak_per_deck"] = *deck->peakGrowthMegabytes / deck->megabytes;
+}
+
+int benchSize() {
+    char const* text = std::getenv("FEDECK_BENCH_SIZE");
+    int const size = text ? std::atoi(text) : 100;
+    return size > 0 ? size : 100;
+}
+
+std::string caseName(inp_DeckLayout const& layout) {
+    std::string name = std::to_string(layout.nx) + "x" + std::to_string(layout.ny) + "x" +
+                       std::to_string(layout.nz);
+    return layout.instances == 0 ? "flat_" + name
+                                 : std::to_string(layout.instances) + "_instances_of_" + name;
+}
+
+// One parse of the big deck takes a large fraction of a second: a fixed small
+// iteration count, repeated, gives a median without minutes of waiting.
+void registerCase(DeckDirectory const& directory, std::map<std::string, Deck>& decks,
+                  inp_DeckLayout const& layout, int iterations) {
+    std::string const name = caseName(layout);
+    Deck& deck = decks[name];
+    deck.path = directory.Path(name + ".inp");
+    deck.megabytes = static_cast<double>(inp_WriteDeck(layout, deck.path)) / 1e6;
+    benchmark::RegisterBenchmark(("Parse/" + name).c_str(), BM_Parse, &deck)
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime()
+        ->Iterations(iterations)
+        ->Repetitions(5);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    DeckDirectory directory;
+    std::map<std::string, Deck> decks;
+    int const size = benchSize();
+    int const small = 20;
+    int const part = std::max(size / 2, 1);
+    registerCase(directory, decks, {.nx = size, .ny = size, .nz = size}, 2);
+    if (size > small) registerCase(directory, decks, {.nx = small, .ny = small, .nz = small}, 20);
+    registerCase(directory, decks, {.nx = part, .ny = part, .nz = part, .instances = 10}, 5);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
