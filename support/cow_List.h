@@ -175,7 +175,8 @@ class cow_List {
             *this = other;
             return;
         }
-        cow_List const source(other);  // keeps other's elements in place if other is this list
+        // A counted copy keeps other's elements in place if other is this list.
+        cow_List const source(other);  // NOLINT(performance-unnecessary-copy-initialization)
         for (T const& value : source) pushBack(value);
     }
     // The elements [from, to). The slice shares the blocks it lies in (so it
