@@ -143,31 +143,19 @@ void inp_Parser::BufferCommentLine(char const* line) {
 
 void inp_Parser::SkipToNextKeyword(bool collect) {
     if (collect) m_skippedDataLines.Clear();
-    for (;;) {
-        char const* line = Readline();
-        if (m_endOfFile) return;
-        if (IsKeyword(line)) {
-            Buffer(line);
-            return;
-        }
+    readToNextKeyword([&](char const* line) {
         if (IsComment(line)) {
             BufferCommentLine(line);
         } else if (collect && bulk) {
             m_skippedDataLines.Append(cow_String(line));
         }
-    }
+    });
 }
 
 void inp_Parser::recoverAtNextKeyword() {
-    for (;;) {
-        char const* line = Readline();
-        if (m_endOfFile) return;
-        if (IsKeyword(line)) {
-            Buffer(line);
-            return;
-        }
+    readToNextKeyword([&](char const* line) {
         if (IsComment(line)) BufferCommentLine(line);
-    }
+    });
 }
 
 cow_String inp_Parser::AppendContinuationLines(char const* line, bool strict) {
@@ -240,13 +228,7 @@ void inp_Parser::readDataLines(inp_Keyword& keyword) {
     // The lines of *HEADING and *STEP are titles, kept whole and kept always.
     bool titles = keyword.Is(inp_kw_Heading) || keyword.Is(inp_kw_Step);
     inp_DataArrayImpl* data = keyword.Data().Impl();
-    for (;;) {
-        char const* line = Readline();
-        if (m_endOfFile) return;
-        if (IsKeyword(line)) {
-            Buffer(line);
-            return;
-        }
+    readToNextKeyword([&](char const* line) {
         if (IsComment(line)) {
             BufferCommentLine(line);
         } else if (titles) {
@@ -259,7 +241,7 @@ void inp_Parser::readDataLines(inp_Keyword& keyword) {
             }
             if (bulk) data->Append(line);
         }
-    }
+    });
 }
 
 cow_List<cow_String> inp_Parser::Split(cow_String const& text) const {

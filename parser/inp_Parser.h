@@ -53,6 +53,20 @@ private:
     static bool IsComment(char const* line);
     static bool IsKeyword(char const* line);
     void BufferCommentLine(char const* line);
+    // Reads lines up to the next keyword line, which is pushed back, or to the
+    // end of the file, and hands every other line to `onLine`.
+    template <class OnLine>
+    void readToNextKeyword(OnLine&& onLine) {
+        for (;;) {
+            char const* line = Readline();
+            if (m_endOfFile) return;
+            if (IsKeyword(line)) {
+                Buffer(line);
+                return;
+            }
+            onLine(line);
+        }
+    }
     void SkipToNextKeyword(bool collect);
     // Reads lines up to the next keyword line and pushes it back; comments are
     // kept for the next keyword, other lines forgotten.

@@ -133,14 +133,8 @@ void inp_Parser::takeLeadingLinesOfInclude(inp_Parser const& nested, cow_String 
 // The data lines behind the *INCLUDE line, up to the next keyword, belong to
 // the last keyword of the included file, else to the last keyword here.
 void inp_Parser::takeLinesBehindInclude(cow_List<inp_Keyword> const& nestedKeywords) {
-    for (;;) {
-        char const* line = Readline();
-        if (m_endOfFile) return;
-        if (IsKeyword(line)) {
-            Buffer(line);
-            return;
-        }
-        if (IsComment(line) || !bulk) continue;
+    readToNextKeyword([&](char const* line) {
+        if (IsComment(line) || !bulk) return;
         if (!nestedKeywords.IsEmpty()) {
             nestedKeywords.Last().Data().Append(line);
         } else if (!m_keywords.IsEmpty()) {
@@ -148,5 +142,5 @@ void inp_Parser::takeLinesBehindInclude(cow_List<inp_Keyword> const& nestedKeywo
         } else {
             m_skippedDataLines.Append(cow_String(line));
         }
-    }
+    });
 }

@@ -199,17 +199,24 @@ bool aio_ofstream::open(char const* path) {
         setstate(failbit);
         return false;
     }
+    attach(fd);
+    m_ownsDescriptor = true;
+    return true;
+}
+
+void aio_ofstream::attach(int fd) {
+    close();
     if (!m_buffer) m_buffer.reset(new char[kBufferSize]);
     m_fd = fd;
+    m_ownsDescriptor = false;
     setWindow(m_buffer.get(), m_buffer.get() + kBufferSize);
     clear();
-    return true;
 }
 
 void aio_ofstream::close() noexcept {
     if (m_fd < 0) return;
     drainBuffer();
-    if (::close(m_fd) != 0) setstate(badbit);
+    if (m_ownsDescriptor && ::close(m_fd) != 0) setstate(badbit);
     m_fd = -1;
     setWindow(nullptr, nullptr);
 }

@@ -202,6 +202,9 @@ class aio_ofstream : public aio_ostream {
     // when it can't be opened. A file already open is closed first.
     bool open(char const* path);
     bool is_open() const noexcept { return m_fd >= 0; }
+    // Writes to a descriptor that is already open, such as standard output;
+    // close() then flushes but leaves the descriptor open.
+    void attach(int fd);
     // Writes what is buffered and closes; a write or close error sets bad().
     void close() noexcept;
 
@@ -214,6 +217,7 @@ class aio_ofstream : public aio_ostream {
     void drainBuffer() noexcept;
 
     int m_fd = -1;
+    bool m_ownsDescriptor = true;
     std::unique_ptr<char[]> m_buffer;
 };
 

@@ -4,7 +4,6 @@
 #include "pipeline/inp_Module.h"
 #include "support/aio_Stream.h"
 #include "tools/fedeck_Commands.h"
-#include "tools/fedeck_StdoutStream.h"
 
 namespace {
 
@@ -25,6 +24,7 @@ class DeckModule {
 
 int main(int argc, char** argv) {
     DeckModule const module;
-    fedeck_StdoutStream out;
+    aio_ofstream out;
+    out.attach(1);  // standard output, buffered: a printed deck may run to millions of lines
     return fedeck_Main(argc, argv, out, aio_cerr());
 }

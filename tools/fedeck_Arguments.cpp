@@ -4,22 +4,22 @@
 
 namespace {
 
-struct CommandSpec {
+struct CommandForm {
     std::string_view name;
     fedeck_Command command;
     size_t operandCount;
     std::string_view operandNames;
 };
 
-constexpr CommandSpec kCommands[] = {
+constexpr CommandForm kCommands[] = {
     {"check", fedeck_Command::Check, 1, "DECK"},
     {"tree", fedeck_Command::Tree, 1, "DECK"},
     {"encrypt", fedeck_Command::Encrypt, 2, "IN and OUT"},
 };
 
-CommandSpec const& findCommand(std::string_view name) {
-    for (CommandSpec const& spec : kCommands)
-        if (spec.name == name) return spec;
+CommandForm const& findCommand(std::string_view name) {
+    for (CommandForm const& form : kCommands)
+        if (form.name == name) return form;
     throw fedeck_UsageError("unknown command '" + std::string(name) + "'");
 }
 
@@ -56,9 +56,9 @@ bool isKnownOption(std::string_view option) {
 
 class ArgumentReader {
   public:
-    ArgumentReader(int argc, char const* const* argv, CommandSpec const& spec)
-        : m_argc(argc), m_argv(argv), m_spec(spec) {
-        m_result.command = spec.command;
+    ArgumentReader(int argc, char const* const* argv, CommandForm const& form)
+        : m_argc(argc), m_argv(argv), m_form(form) {
+        m_result.command = form.command;
     }
 
     fedeck_Arguments Read() {
@@ -82,9 +82,9 @@ class ArgumentReader {
         std::string_view const name = argument.substr(0, equals);
         if (!isKnownOption(name))
             throw fedeck_UsageError("unknown option '" + std::string(name) + "'");
-        if (!takesOption(m_spec.command, name))
+        if (!takesOption(m_form.command, name))
             throw fedeck_UsageError("option '" + std::string(name) + "' does not apply to '" +
-                                    std::string(m_spec.name) + "'");
+                                    std::string(m_form.name) + "'");
         if (name == "--json") {
             if (equals != std::string_view::npos)
                 throw fedeck_UsageError("option '--json' takes no value");
@@ -113,16 +113,16 @@ class ArgumentReader {
     }
 
     void checkOperands() const {
-        if (m_result.operands.size() != m_spec.operandCount)
-            throw fedeck_UsageError("'" + std::string(m_spec.name) + "' needs " +
-                                    std::string(m_spec.operandNames));
-        if (m_spec.command == fedeck_Command::Encrypt && m_result.password.empty())
+        if (m_result.operands.size() != m_form.operandCount)
+            throw fedeck_UsageError("'" + std::string(m_form.name) + "' needs " +
+                                    std::string(m_form.operandNames));
+        if (m_form.command == fedeck_Command::Encrypt && m_result.password.empty())
             throw fedeck_UsageError("'encrypt' needs a non-empty --password");
     }
 
     int m_argc;
     char const* const* m_argv;
-    CommandSpec const& m_spec;
+    CommandForm const& m_form;
     int m_next = 2;
     fedeck_Arguments m_result;
 };
