@@ -1,0 +1,140 @@
+#include "mesh/inp_Element.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "deck/inp_Exceptions.h"
+#include "support/ZELBasAssert.h"
+
+namespace {
+
+bool fitsInt16(int value) {
+    return value >= INT16_MIN && value <= INT16_MAX;
+}
+
+}  // namespace
+
+inp_Element::inp_Element(inp_Element const& other)
+    : m_type(other.m_type),
+      m_file(other.m_file),
+      m_solidElementNumbering(other.m_solidElementNumbering),
+      m_numNodesDefined(other.m_numNodesDefined),
+      m_nodeOffset(other.m_nodeOffset) {
+    allocateNodes(other.m_numNodesPerElement);
+    std::copy_n(other.m_nodes, m_numNodesPerElement, m_nodes);
+}
+
+inp_Element::inp_Element(inp_Element&& other) noexcept
+    : m_type(std::move(other.m_type)),
+      m_file(std::move(other.m_file)),
+      m_nodes(std::exchange(other.m_nodes, nullptr)),
+      m_numNodesPerElement(std::exchange(other.m_numNodesPerElement, 0)),
+      m_solidElementNumbering(other.m_solidElementNumbering),
+      m_numNodesDefined(other.m_numNodesDefined),
+      m_nodeOffset(other.m_nodeOffset) {}
+
+inp_Element::inp_Element(cow_String type, int count, int const* nodes, int numNodesDefined,
+                         int nodeOffset, int solidElementNumbering)
+    : m_type(std::move(type)) {
+    ZELBAS_ASSERT(nodes != nullptr || count == 0);
+    setCounts(numNodesDefined, nodeOffset, solidElementNumbering);
+    allocateNodes(count);
+    std::copy_n(nodes, m_numNodesPerElement, m_nodes);
+}
+
+inp_Element::inp_Element(cow_String type, cow_List<int> const& nodes, int numNodesDefined,
+                         int nodeOffset, int solidElementNumbering)
+    : m_type(std::move(type)) {
+    setCounts(numNodesDefined, nodeOffset, solidElementNumbering);
+    allocateNodes(nodes.Length());
+    nodes.GetCArray(m_nodes);
+}
+
+inp_Element::inp_Element(cow_String type, cow_String file, cow_List<int> const& nodes,
+                         int numNodesDefined)
+    : inp_Element(std::move(type), nodes, numNodesDefined, 0, 0) {
+    m_file = std::move(file);
+}
+
+inp_Element& inp_Element::operator=(inp_Element const& other) {
+    if (this == &other) return *this;
+    if (other.m_numNodesPerElement != m_numNodesPerElement) {
+        // Allocate before anything changes, so a failure leaves this record whole.
+        int* const fresh = other.m_numNodesPerElement == 0 ? nullptr : other.copyOfNodes();
+        freeNodes();
+        m_nodes = fresh;
+        m_numNodesPerElement = other.m_numNodesPerElement;
+    } else {
+        std::copy_n(other.m_nodes, m_numNodesPerElement, m_nodes);
+    }
+    m_type = other.m_type;
+    m_file = other.m_file;
+    m_solidElementNumbering = other.m_solidElementNumbering;
+    m_numNodesDefined = other.m_numNodesDefined;
+    m_nodeOffset = other.m_nodeOffset;
+    return *this;
+}
+
+inp_Element& inp_Element::operator=(inp_Element&& other) noexcept {
+    if (this == &other) return *this;
+    freeNodes();
+    m_type = std::move(other.m_type);
+    m_file = std::move(other.m_file);
+    m_nodes = std::exchange(other.m_nodes, nullptr);
+    m_numNodesPerElement = std::exchange(other.m_numNodesPerElement, 0);
+    m_solidElementNumbering = other.m_solidElementNumbering;
+    m_numNodesDefined = other.m_numNodesDefined;
+    m_nodeOffset = other.m_nodeOffset;
+    return *this;
+}
+
+inp_Element::~inp_Element() {
+    freeNodes();
+}
+
+cow_List<int> inp_Element::NodeList() const {
+    cow_List<int> list;
+    list.SetFromArray(m_nodes, m_numNodesPerElement);
+    return list;
+}
+
+bool operator==(inp_Element const& a, inp_Element const& b) noexcept {
+    return a.m_type == b.m_type && a.m_file == b.m_file &&
+           a.m_numNodesPerElement == b.m_numNodesPerElement &&
+           a.m_solidElementNumbering == b.m_solidElementNumbering &&
+           a.m_numNodesDefined == b.m_numNodesDefined && a.m_nodeOffset == b.m_nodeOffset &&
+           std::equal(a.m_nodes, a.m_nodes + a.m_numNodesPerElement, b.m_nodes);
+}
+
+void inp_Element::setCounts(int numNodesDefined, int nodeOffset, int solidElementNumbering) {
+    ZELBAS_ASSERT(numNodesDefined >= 0 && numNodesDefined <= kMaxNodes);
+    ZELBAS_ASSERT(fitsInt16(solidElementNumbering));
+    m_numNodesDefined = static_cast<int16_t>(numNodesDefined);
+    m_nodeOffset = nodeOffset;
+    m_solidElementNumbering = static_cast<int16_t>(solidElementNumbering);
+}
+
+int* inp_Element::newNodeArray(int count) {
+    ZELBAS_ASSERT(count >= 0 && count <= kMaxNodes);
+    if (count == 0) return nullptr;
+    void* const block = mem_Malloc(static_cast<size_t>(count) * sizeof(int));
+    if (!block) throw inp_MemoryException();
+    return static_cast<int*>(block);
+}
+
+int* inp_Element::copyOfNodes() const {
+    int* const copy = newNodeArray(m_numNodesPerElement);
+    std::copy_n(m_nodes, m_numNodesPerElement, copy);
+    return copy;
+}
+
+void inp_Element::allocateNodes(int count) {
+    m_nodes = newNodeArray(count);
+    m_numNodesPerElement = static_cast<int16_t>(count);
+}
+
+void inp_Element::freeNodes() noexcept {
+    mem_Free(m_nodes);
+    m_nodes = nullptr;
+    m_numNodesPerElement = 0;
+}
