@@ -64,6 +64,9 @@ class inp_Keyword {
     void SetSuboptions(cow_List<inp_Keyword> const& suboptions) { m_suboptions = suboptions; }
     // Whether a direct child has that enumerator; no recursion.
     bool hasSuboption(inp_KeywordEnm keyword) const;
+    // Hands this keyword to the visitor's Visit, which handles it and walks
+    // its suboptions.
+    void Accept(inp_Visitor& visitor);
 
     cow_String const& FileName() const { return m_fileName; }
     void SetFileName(cow_String const& fileName) { m_fileName = fileName; }
