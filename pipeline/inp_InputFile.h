@@ -5,8 +5,15 @@
 // turn that list into a tree and fill the model maps.
 
 #include "deck/inp_Keyword.h"
+#include "mesh/inp_CoordMap.h"
+#include "mesh/inp_MapInt2Element.h"
 #include "support/cow_List.h"
 #include "support/cow_String.h"
+#include "support/gsl_Matrix.h"
+#include "support/inpM_IdMap.h"
+#include "support/inpM_InstanceMap.h"
+#include "support/inpM_SetMap.h"
+#include "support/inpM_SurfaceMap.h"
 
 class aio_ostream;
 class eli_eostream;
@@ -53,12 +60,41 @@ public:
     cow_List<inp_Keyword> const& AssemblyElementKeywords() const { return m_assemblyElementKeywords; }
     cow_List<cow_String> const& ImportedInstanceNames() const { return m_importedInstanceNames; }
 
+    // The model maps, filled by the extraction stages: part level, assembly
+    // level, instance transforms, id maps of a renumbered model.
+    inp_CoordMap const& PartCoordMap() const { return m_partCoordMap; }
+    inpM_InstanceMap<inp_MapInt2Element> const& PartElementMap() const { return m_partElementMap; }
+    inpM_SetMap const& PartNsets() const { return m_partNsets; }
+    inpM_SetMap const& PartElsets() const { return m_partElsets; }
+    inpM_SurfaceMap const& PartSurfaces() const { return m_partSurfaces; }
+    inp_CoordMap const& AssemblyCoordMap() const { return m_assemblyCoordMap; }
+    inpM_InstanceMap<inp_MapInt2Element> const& AssemblyElementMap() const { return m_assemblyElementMap; }
+    inpM_SetMap const& AssemblyNsets() const { return m_assemblyNsets; }
+    inpM_SetMap const& AssemblyElsets() const { return m_assemblyElsets; }
+    inpM_SurfaceMap const& AssemblySurfaces() const { return m_assemblySurfaces; }
+    inpM_InstanceMap<gsl_Matrix> const& TransformationMap() const { return m_transformationMap; }
+    inpM_IdMap const& NodeIdMap() const { return m_nodeIdMap; }
+    inpM_IdMap const& ElementIdMap() const { return m_elementIdMap; }
+    inpM_InstanceMap<cow_String> const& InstancePartNames() const { return m_instancePartNames; }
+    inpM_SetMap const& NewNsets() const { return m_newNsets; }
+    inpM_SetMap const& NewElsets() const { return m_newElsets; }
+    inpM_SurfaceMap const& NewSurfaces() const { return m_newSurfaces; }
+    inpM_IdMap const& SpareNodeIdMap() const { return m_spareNodeIdMap; }
+    inpM_IdMap const& SpareElementIdMap() const { return m_spareElementIdMap; }
+    inpM_SetMap const& ImportedNsets() const { return m_importedNsets; }
+    inpM_SetMap const& ImportedElsets() const { return m_importedElsets; }
+    inpM_SurfaceMap const& ImportedSurfaces() const { return m_importedSurfaces; }
+
     // Settings of the caller, made before the stages run.
     void SetIncludePath(cow_String const& directory) { m_includePath = directory; }
     void SetInOdbConverter(bool inConverter) { m_inOdbConverter = inConverter; }
     void SetUseImportedData(bool useImported) { m_useImportedData = useImported; }
     void SetNumberRestartSteps(int steps) { m_numberRestartSteps = steps; }
     void SetImportedInstanceNames(cow_List<cow_String> const& names) { m_importedInstanceNames = names; }
+    // The sets and surfaces of the job an import job reads from.
+    void SetImportedNsets(inpM_SetMap const& sets) { m_importedNsets = sets; }
+    void SetImportedElsets(inpM_SetMap const& sets) { m_importedElsets = sets; }
+    void SetImportedSurfaces(inpM_SurfaceMap const& surfaces) { m_importedSurfaces = surfaces; }
 
 private:
     cow_List<inp_Keyword> m_assemblyElementKeywords;
@@ -76,8 +112,30 @@ private:
     bool m_parameterized = false;
     bool m_inOdbConverter = false;
     cow_String m_fileName;
+    inp_CoordMap m_partCoordMap;
+    inpM_InstanceMap<inp_MapInt2Element> m_partElementMap;
+    inpM_SetMap m_partNsets;
+    inpM_SetMap m_partElsets;
+    inpM_SurfaceMap m_partSurfaces;
+    inp_CoordMap m_assemblyCoordMap;
+    inpM_InstanceMap<inp_MapInt2Element> m_assemblyElementMap;
+    inpM_SetMap m_assemblyNsets;
+    inpM_SetMap m_assemblyElsets;
+    inpM_SurfaceMap m_assemblySurfaces;
+    inpM_InstanceMap<gsl_Matrix> m_transformationMap;
+    inpM_IdMap m_nodeIdMap;
+    inpM_IdMap m_elementIdMap;
+    inpM_SetMap m_newNsets;  // sets a restart job adds at assembly level, before they are merged
+    inpM_SetMap m_newElsets;
+    inpM_SurfaceMap m_newSurfaces;
+    inpM_IdMap m_spareNodeIdMap;  // spare id maps of the continuation jobs
+    inpM_IdMap m_spareElementIdMap;
+    inpM_SetMap m_importedNsets;
+    inpM_SetMap m_importedElsets;
+    inpM_SurfaceMap m_importedSurfaces;
     cow_List<cow_String> m_importedInstanceNames;
     cow_String m_includePath;
+    inpM_InstanceMap<cow_String> m_instancePartNames;
     cow_List<cow_String> m_includedFiles;
     cow_List<cow_String> m_missingIncludeFiles;
 };
