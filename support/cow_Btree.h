@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "support/ZELBasAssert.h"
+#include "support/cow_SharedNodes.h"
 
 template <class K, class V>
 class cow_BtreeIT;
@@ -114,12 +115,7 @@ class cow_Btree {
         collect(m_root, mine);
         std::vector<Node const*> theirs;
         collect(other.m_root, theirs);
-        std::sort(mine.begin(), mine.end());
-        std::sort(theirs.begin(), theirs.end());
-        std::vector<Node const*> common;
-        std::set_intersection(mine.begin(), mine.end(), theirs.begin(), theirs.end(),
-                              std::back_inserter(common));
-        return static_cast<int>(common.size());
+        return cow_CountCommonNodes(std::move(mine), std::move(theirs));
     }
 
     void swap(cow_Btree& other) noexcept {
