@@ -42,7 +42,7 @@ bool omi_IntTableCoord::Insert(int key, inp_Coord const& record) {
     }
     auto owned = std::make_unique<inp_Coord>(record);
     Base::Insert(key, owned.get());
-    owned.release();
+    static_cast<void>(owned.release());  // the table owns the record now
     return true;
 }
 

@@ -83,9 +83,11 @@ class TableLeaf {
     bool IsEmpty() const { return m_count == 0; }
 
     V* At(uint32_t bit) {
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): V may be a pointer type
         return std::launder(reinterpret_cast<V*>(m_values.bytes + bit * sizeof(V)));
     }
     V const* At(uint32_t bit) const {
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): V may be a pointer type
         return std::launder(reinterpret_cast<V const*>(m_values.bytes + bit * sizeof(V)));
     }
 
@@ -127,6 +129,7 @@ class TableLeaf {
   private:
     static constexpr uint32_t kWords = kLeafSlots / 64;
 
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): V may be a pointer type
     void* slotAddress(uint32_t bit) { return m_values.bytes + bit * sizeof(V); }
 
     void copyValuesFrom(TableLeaf const& other) {
@@ -153,6 +156,7 @@ class TableLeaf {
 
     struct NoStorage {};
     struct Storage {
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): V may be a pointer type
         alignas(V) unsigned char bytes[kLeafSlots * sizeof(V)];
     };
 
