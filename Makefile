@@ -49,7 +49,7 @@ $(BUILD_FUZZ)/CMakeCache.txt:
 fuzz: $(BUILD_FUZZ)/CMakeCache.txt
 	cmake --build $(BUILD_FUZZ) -j $(JOBS) --target parser_fuzz
 	rm -rf $(BUILD_FUZZ)/corpus && mkdir -p $(BUILD_FUZZ)/corpus && cp fuzz/corpus/* $(BUILD_FUZZ)/corpus/
-	$(BUILD_FUZZ)/parser_fuzz -max_total_time=$(FUZZ_TIME) -max_len=8192 -print_final_stats=1 \
+	$(BUILD_FUZZ)/parser_fuzz -dict=fuzz/parser.dict -max_total_time=$(FUZZ_TIME) -max_len=8192 -print_final_stats=1 \
 	  -artifact_prefix=$(BUILD_FUZZ)/ \
 	  $(BUILD_FUZZ)/corpus
 
