@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "FailureText.h"
 #include "deck/inp_Exceptions.h"
 #include "mesh/inp_MapInt2Element.h"
 #include "support/ZELBasException.h"
@@ -39,24 +40,6 @@ std::vector<int> range(int first, int count) {
 std::vector<int> operator+(std::vector<int> a, std::vector<int> const& b) {
     a.insert(a.end(), b.begin(), b.end());
     return a;
-}
-
-std::string messageOf(auto&& call) {
-    try {
-        call();
-    } catch (inp_PrimException const& e) {
-        return e.UserReport().CStr();
-    }
-    return "no exception";
-}
-
-std::string conditionOf(auto&& call) {
-    try {
-        call();
-    } catch (ZELBasAssertException const& e) {
-        return e.Condition().CStr();
-    }
-    return "no assertion";
 }
 
 constexpr char kAppendMessage[] =

@@ -9,6 +9,7 @@
 #include <random>
 #include <string>
 
+#include "FailureText.h"
 #include "deck/inp_Exceptions.h"
 #include "support/ZELBasException.h"
 
@@ -24,24 +25,6 @@ inp_NodeDataArrayImpl nodesOf(std::initializer_list<char const*> lines) {
     inp_NodeDataArrayImpl nodes;
     nodes.SetRaw(rawOf(lines));
     return nodes;
-}
-
-std::string messageOf(auto&& call) {
-    try {
-        call();
-    } catch (inp_PrimException const& e) {
-        return e.UserReport().CStr();
-    }
-    return "no exception";
-}
-
-std::string conditionOf(auto&& call) {
-    try {
-        call();
-    } catch (ZELBasAssertException const& e) {
-        return e.Condition().CStr();
-    }
-    return "no assertion";
 }
 
 std::string setRawMessage(std::initializer_list<char const*> lines) {

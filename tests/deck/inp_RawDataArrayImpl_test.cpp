@@ -6,6 +6,7 @@
 #include <random>
 #include <string>
 
+#include "FailureText.h"
 #include "support/ZELBasException.h"
 
 namespace {
@@ -14,15 +15,6 @@ inp_RawDataArrayImpl arrayOf(std::initializer_list<char const*> lines) {
     inp_RawDataArrayImpl data;
     for (char const* line : lines) data.Append(line);
     return data;
-}
-
-std::string conditionOf(auto&& call) {
-    try {
-        call();
-    } catch (ZELBasAssertException const& e) {
-        return e.Condition().CStr();
-    }
-    return "no assertion";
 }
 
 }  // namespace

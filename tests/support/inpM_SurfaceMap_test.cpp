@@ -4,22 +4,11 @@
 
 #include <vector>
 
+#include "SurfaceContents.h"
 #include "support/ZELBasException.h"
 #include "support/inpM_IdMap.h"
 
 namespace {
-
-std::vector<int> nodesOf(inpM_PartInstanceSurface const& surface) {
-    std::vector<int> nodes;
-    for (auto entry : surface.ConstGetNodeAreaList()) nodes.push_back(entry.key);
-    return nodes;
-}
-
-std::vector<int> face(inpM_PartInstanceSurface const& surface, char const* faceId) {
-    cow_List<int> const* elements = surface.ConstGetFaceIdElementIdsMap().Find(faceId);
-    if (elements == nullptr) return {};
-    return std::vector<int>(elements->begin(), elements->end());
-}
 
 inpM_AssemblyInstanceSurface assemblyNodes(cow_List<int> const& nodes) {
     inpM_AssemblyInstanceSurface surface;
