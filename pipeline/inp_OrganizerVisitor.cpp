@@ -1,0 +1,181 @@
+#include "pipeline/inp_OrganizerVisitor.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "deck/inp_KeywordTable.h"
+#include "mesh/inp_Utils.h"
+#include "support/atr_String.h"
+#include "support/pnt_PrettyPrint.h"
+#include "support/typ_DebugFlags.h"
+
+namespace {
+
+// What a flat deck's top level takes: in a deck of parts these keywords would
+// stand in the model, the assembly, an instance or a part.
+constexpr inp_KeywordEnm kFlatDeckLevels[] = {inp_kw_Model, inp_kw_Assembly, inp_kw_Instance,
+                                              inp_kw_Part};
+
+void appendSuboptions(int key, std::vector<int>& keys) {
+    cow_List<int> const& suboptions = inp_KeywordTable::Instance().Suboptions(key);
+    keys.insert(keys.end(), suboptions.begin(), suboptions.end());
+}
+
+cow_List<int> ascendingUnique(std::vector<int>& keys) {
+    std::sort(keys.begin(), keys.end());
+    keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
+    cow_List<int> list;
+    list.SetFromArray(keys.data(), static_cast<int>(keys.size()));
+    return list;
+}
+
+cow_List<int> rootLevelKeys(bool enhanced) {
+    std::vector<int> keys;
+    if (enhanced) {
+        appendSuboptions(inp_kw_Model, keys);
+    } else {
+        for (inp_KeywordEnm level : kFlatDeckLevels) appendSuboptions(level, keys);
+    }
+    return ascendingUnique(keys);
+}
+
+void printMove(char const* move, inp_Keyword const& keyword) {
+    if (typ_DebugFlags::GetDebugFlags(typ_DebugFlags::kDeckFlag) < 1) return;
+    pnt_debugPrint().StartDebug(__FILE__, __LINE__);
+    pnt_debugPrint() << move << keyword.Name();
+    pnt_debugPrint().EndDebug();
+}
+
+// The lists are ascending: a deck of millions of keywords asks this once
+// for each keyword and each level it climbs.
+bool accepts(cow_List<int> const& allowed, int key) {
+    int low = 0;
+    int high = allowed.Length();
+    while (low < high) {
+        int const middle = low + (high - low) / 2;
+        int const candidate = allowed.ConstGet(middle);
+        if (candidate == key) return true;
+        if (candidate < key)
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return false;
+}
+
+// The record has no field of its own for the key of the keyword that holds
+// it; its level mark, which no stage before this one sets, carries it.
+void setParentKey(inp_Keyword& keyword, int parentKey) {
+    keyword.SetLevel(parentKey);
+}
+
+}  // namespace
+
+inp_OrganizerVisitor::inp_OrganizerVisitor(bool enhanced) : m_enhanced(enhanced) {
+    m_openKeywords.Append(inp_Keyword());
+    m_allowedKeys.Append(rootLevelKeys(enhanced));
+}
+
+// The climb is a loop rather than a fresh Visit(keyword) after each pop:
+// Visit would run the keyword's handler again for every level climbed (a
+// *SUBSTRUCTURE PATH would count its depth twice) and would walk the
+// keyword's own suboptions once per level besides the walk that follows the
+// handler. A keyword that may not climb out of the top level is refused
+// before the pop, which leaves the stacks as a pop and push back would.
+void inp_OrganizerVisitor::DefaultAction(inp_Keyword& keyword) {
+    int const key = keyword.Keyword();
+    for (;;) {
+        if (accepts(m_allowedKeys.Last(), key)) {
+            printMove("OrganizerVisitor - Push: ", keyword);
+            push(keyword);
+            return;
+        }
+        if (m_openKeywords.Length() == 1 || !CanPopKeyword(m_openKeywords.Last(), keyword)) {
+            MisplacedKeywordError(keyword);
+            return;
+        }
+        printMove("OrganizerVisitor - Pop: ", keyword);
+        closeTop();
+    }
+}
+
+// Scope as the base keeps it, but a step without a name is not this stage's
+// fault to find.
+void inp_OrganizerVisitor::VisitStep(inp_Keyword& keyword) {
+    SetStepName(keyword);
+    m_allowedKeys.Get(0) = cow_List<int>{inp_kw_Step, inp_kw_EndStep};
+    DefaultAction(keyword);
+}
+
+cow_List<inp_Keyword> inp_OrganizerVisitor::Keywords() {
+    while (m_openKeywords.Length() > 1) closeTop();
+    cow_List<inp_Keyword>& topLevel = m_openKeywords.Get(0).GetSuboptions();
+    int const count = topLevel.Length();
+    for (int i = 0; i < count; ++i) SetParentKeyOfSuboptions(topLevel.Get(i));
+    return topLevel;
+}
+
+bool inp_OrganizerVisitor::CanPopKeyword(inp_Keyword const& open, inp_Keyword const& incoming) {
+    switch (open.Keyword()) {
+        case inp_kw_Part:
+            return incoming.Is(inp_kw_EndPart);
+        case inp_kw_Instance:
+            return incoming.Is(inp_kw_EndInstance);
+        case inp_kw_Step:
+            return incoming.Is(inp_kw_EndStep);
+        case inp_kw_Assembly:
+            return incoming.Is(inp_kw_EndAssembly);
+        default:
+            return true;
+    }
+}
+
+void inp_OrganizerVisitor::SetParentKeyOfSuboptions(inp_Keyword& keyword) {
+    cow_List<inp_Keyword>& suboptions = keyword.GetSuboptions();
+    int const count = suboptions.Length();
+    for (int i = 0; i < count; ++i) {
+        inp_Keyword& suboption = suboptions.Get(i);
+        setParentKey(suboption, keyword.Keyword());
+        SetParentKeyOfSuboptions(suboption);
+    }
+}
+
+void inp_OrganizerVisitor::MisplacedKeywordError(inp_Keyword const& keyword) {
+    AddFatalError(inp_Utils::MessageInKeyword(
+        keyword, atr("The keyword is misplaced. It can be suboption for the following "
+                     "keyword(s)/level(s): %s",
+                     levelsThatAccept(keyword.Keyword()))));
+}
+
+// -- private ----------------------------------------------------------------------
+
+cow_List<int> inp_OrganizerVisitor::allowedBelow(int key) {
+    if (cow_List<int> const* known = m_sortedSuboptions.Find(key)) return *known;
+    std::vector<int> keys;
+    appendSuboptions(key, keys);
+    cow_List<int> sorted = ascendingUnique(keys);
+    m_sortedSuboptions.Insert(key, sorted);
+    return sorted;
+}
+
+void inp_OrganizerVisitor::push(inp_Keyword const& keyword) {
+    m_allowedKeys.Append(allowedBelow(keyword.Keyword()));
+    m_openKeywords.Append(keyword);
+}
+
+void inp_OrganizerVisitor::closeTop() {
+    m_allowedKeys.RemoveLast();
+    inp_Keyword closed = m_openKeywords.Pop();
+    m_openKeywords.GetLast().GetSuboptions().Append(std::move(closed));
+}
+
+cow_String inp_OrganizerVisitor::levelsThatAccept(int key) {
+    if (cow_String const* known = m_parentLevels.Find(key)) return *known;
+    inp_KeywordTable& table = inp_KeywordTable::Instance();
+    cow_String levels =
+        table.KeywordEnum2String(table.ParentKeywords(static_cast<inp_KeywordEnm>(key)));
+    levels.Trim("_");
+    m_parentLevels.Insert(key, levels);
+    return levels;
+}
