@@ -1,0 +1,153 @@
+// How the expansion stage reaches a keyword's handling: the handler overrides
+// of the visitor, all alike, and the one table of keywords that have a
+// handler of their own. Every other keyword is handled by the kind of its
+// schema row. Adding a handler is one member and one line in the table.
+
+#include <cstdint>
+
+#include "expansion/inp_KeywordExpansionVisitor.h"
+#include "expansion/inp_Schema.h"
+
+// -- the handler overrides ------------------------------------------------------------------
+
+#define INP_EXPANSION_DEFINE_HANDLER(name)                                  \
+    void inp_KeywordExpansionVisitor::Visit##name(inp_Keyword& keyword) { \
+        ExpandKeyword(keyword);                                             \
+    }
+#define INP_EXPANSION_SCOPED_LISTED_BELOW(name)
+INP_VISITOR_SLOTS(INP_EXPANSION_DEFINE_HANDLER, INP_EXPANSION_SCOPED_LISTED_BELOW)
+INP_EXPANSION_DEFINE_HANDLER(Assembly)
+INP_EXPANSION_DEFINE_HANDLER(EndPart)
+INP_EXPANSION_DEFINE_HANDLER(Instance)
+INP_EXPANSION_DEFINE_HANDLER(Part)
+INP_EXPANSION_DEFINE_HANDLER(Step)
+INP_EXPANSION_DEFINE_HANDLER(SubstructurePath)
+#undef INP_EXPANSION_DEFINE_HANDLER
+#undef INP_EXPANSION_SCOPED_LISTED_BELOW
+
+// Six scoped handlers are overridden above and three (the end of an assembly,
+// an instance, a step) are left to the base class. A scoped slot added to the
+// list must be placed in one group or the other.
+#define INP_EXPANSION_COUNT(name) +1
+#define INP_EXPANSION_NOT_COUNTED(name)
+static_assert(0 INP_VISITOR_SLOTS(INP_EXPANSION_NOT_COUNTED, INP_EXPANSION_COUNT) == 9,
+              "a scoped handler was added to inp_VisitorSlots.h: decide whether expansion "
+              "overrides it");
+#undef INP_EXPANSION_COUNT
+#undef INP_EXPANSION_NOT_COUNTED
+
+// -- the keywords with a handler of their own ----------------------------------------------
+
+std::span<inp_KeywordExpansionVisitor::OwnHandler const> inp_KeywordExpansionVisitor::OwnHandlers() {
+    using V = inp_KeywordExpansionVisitor;
+    static constexpr OwnHandler kOwnHandlers[] = {
+        // Model structure.
+        {inp_kw_Part, &V::HandlePart},
+        {inp_kw_Assembly, &V::HandleAssembly},
+        {inp_kw_Instance, &V::HandleInstance},
+        // Rows with a flag to set.
+        {inp_kw_Dynamic, &V::HandleDynamic},
+        {inp_kw_RigidSurface, &V::HandleRigidSurface},
+        {inp_kw_Parameter, &V::HandleParameter},
+        // Data lines that may come from an `input` file.
+        {inp_kw_Amplitude, &V::HandleDataFileKeyword},
+        {inp_kw_Aqua, &V::HandleDataFileKeyword},
+        {inp_kw_Clearance, &V::HandleDataFileKeyword},
+        {inp_kw_Correlation, &V::HandleDataFileKeyword},
+        {inp_kw_Distribution, &V::HandleDataFileKeyword},
+        {inp_kw_Equation, &V::HandleDataFileKeyword},
+        {inp_kw_Element, &V::HandleDataFileKeyword},
+        {inp_kw_Field, &V::HandleDataFileKeyword},
+        {inp_kw_ImpedanceProperty, &V::HandleDataFileKeyword},
+        {inp_kw_Imperfection, &V::HandleDataFileKeyword},
+        {inp_kw_InitialConditions, &V::HandleDataFileKeyword},
+        {inp_kw_MassFlowRate, &V::HandleDataFileKeyword},
+        {inp_kw_Matrix, &V::HandleDataFileKeyword},
+        {inp_kw_Mpc, &V::HandleDataFileKeyword},
+        {inp_kw_NodalEnergyRate, &V::HandleDataFileKeyword},
+        {inp_kw_NodalThickness, &V::HandleDataFileKeyword},
+        {inp_kw_Node, &V::HandleDataFileKeyword},
+        {inp_kw_ParameterShapeVariation, &V::HandleParameterShapeVariation},
+        {inp_kw_DesignShapeVariation, &V::HandleParameterShapeVariation},
+        {inp_kw_PressureStress, &V::HandleDataFileKeyword},
+        {inp_kw_PsdDefinition, &V::HandleDataFileKeyword},
+        {inp_kw_Release, &V::HandleDataFileKeyword},
+        {inp_kw_Spectrum, &V::HandleSpectrum},
+        {inp_kw_SurfaceFlaw, &V::HandleDataFileKeyword},
+        {inp_kw_SpatialDistribution, &V::HandleDataFileKeyword},
+        {inp_kw_Temperature, &V::HandleDataFileKeyword},
+        {inp_kw_Wave, &V::HandleDataFileKeyword},
+        // Data lines cut to a fixed number of items.
+        {inp_kw_Nset, &V::HandleNset},
+        {inp_kw_Elset, &V::HandleElset},
+        {inp_kw_TimePoints, &V::HandleTimePoints},
+    };
+    return kOwnHandlers;
+}
+
+// -- the lookup by key -------------------------------------------------------------------------
+
+namespace {
+
+constexpr int largestKey() {
+    int largest = 0;
+#define INP_EXPANSION_LARGEST(camel, name, number) \
+    if (number > largest) largest = number;
+    INP_KEYWORDS(INP_EXPANSION_LARGEST)
+#undef INP_EXPANSION_LARGEST
+    return largest;
+}
+
+constexpr int kKeySlots = largestKey() + 1;
+
+}  // namespace
+
+// Keys are sparse (up to five digits for some 550 keywords), so a small
+// index by key leads into a dense array of routes: two loads a keyword, and
+// both arrays stay in cache over a walk. Built once, read-only after.
+class inp_KeywordExpansionVisitor::RouteTable {
+  public:
+    RouteTable() : m_routeOfKey(kKeySlots, 0) {
+        m_routes.push_back({nullptr, &inp_KeywordExpansionVisitor::ExpandAsDefault});
+#define INP_EXPANSION_ADD_ROUTE(camel, name, number) add(inp_kw_##camel);
+        INP_KEYWORDS(INP_EXPANSION_ADD_ROUTE)
+#undef INP_EXPANSION_ADD_ROUTE
+    }
+
+    Route const& Of(int key) const {
+        if (key < 0 || key >= kKeySlots) return m_routes[0];
+        return m_routes[m_routeOfKey[static_cast<size_t>(key)]];
+    }
+
+  private:
+    void add(inp_KeywordEnm key) {
+        inp_SchemaRow const* row = inp_Schema::Find(key);
+        m_routeOfKey[static_cast<size_t>(key)] = static_cast<std::uint16_t>(m_routes.size());
+        m_routes.push_back({row, handlerOf(key, row)});
+    }
+
+    static Handler handlerOf(inp_KeywordEnm key, inp_SchemaRow const* row) {
+        for (OwnHandler const& own : OwnHandlers())
+            if (own.key == key) return own.handler;
+        if (!row) return &inp_KeywordExpansionVisitor::ExpandAsDefault;
+        switch (row->kind) {
+            case inp_SchemaKind::Row:
+            case inp_SchemaKind::Logic:
+                return &inp_KeywordExpansionVisitor::ExpandByRow;
+            case inp_SchemaKind::Untouched:
+                return &inp_KeywordExpansionVisitor::ExpandNothing;
+            case inp_SchemaKind::NoParameters:
+            case inp_SchemaKind::EndScope:
+                break;
+        }
+        return &inp_KeywordExpansionVisitor::ExpandAsDefault;
+    }
+
+    std::vector<std::uint16_t> m_routeOfKey;
+    std::vector<Route> m_routes;
+};
+
+inp_KeywordExpansionVisitor::Route const& inp_KeywordExpansionVisitor::RouteOf(int key) {
+    static RouteTable const table;
+    return table.Of(key);
+}
