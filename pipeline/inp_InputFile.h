@@ -28,6 +28,15 @@ public:
     // file that cannot be opened throws (nex_PrimException<atr_String, 1>).
     void Parse(cow_String fileName);
 
+    // Validates and normalises every keyword: parameter names and values in
+    // full, data files read, *NODE data compacted, defective keywords
+    // removed. Takes over what the deck is made of (parts or flat), its
+    // instances and whether it is parameterized. Diagnostics go to the sink.
+    void ExpandKeywords();
+    // Makes the flat keyword list a tree of keywords and their suboptions;
+    // misplaced keywords are reported and left out.
+    void Reorganize();
+
     // Writes the keyword list back as deck text, suboptions below their parent.
     void Print(eli_eostream& out) const;
     void Print(aio_ostream& out) const;

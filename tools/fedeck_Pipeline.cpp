@@ -17,10 +17,16 @@ void parseStage(inp_InputFile& deck, cow_String const& deckPath) {
     }
 }
 
+void expandStage(inp_InputFile& deck, cow_String const&) { deck.ExpandKeywords(); }
+
+void organizeStage(inp_InputFile& deck, cow_String const&) { deck.Reorganize(); }
+
 // In pipeline order. A new stage is one line here; everything else (the
 // --until choices, the usage text, the default) follows from this table.
 constexpr fedeck_Stage kStages[] = {
     {"parse", &parseStage},
+    {"expand", &expandStage},
+    {"organize", &organizeStage},
 };
 
 }  // namespace

@@ -61,6 +61,14 @@ void writeJsonDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) {
     out.put('}');
 }
 
+// Every keyword of the list and of the suboptions below, so that the count
+// means the same before and after the keywords are organized into a tree.
+int countKeywords(cow_List<inp_Keyword> const& keywords) {
+    int count = keywords.Length();
+    for (inp_Keyword const& keyword : keywords) count += countKeywords(keyword.Suboptions());
+    return count;
+}
+
 }  // namespace
 
 fedeck_Report::fedeck_Report(cow_String deckPath, std::string_view stage, bool stoppedEarly,
@@ -69,7 +77,7 @@ fedeck_Report::fedeck_Report(cow_String deckPath, std::string_view stage, bool s
     : m_deckPath(std::move(deckPath)),
       m_stage(stage),
       m_stoppedEarly(stoppedEarly),
-      m_keywordCount(deck.Keywords().Length()),
+      m_keywordCount(countKeywords(deck.Keywords())),
       m_diagnostics(diagnostics),
       m_includedFiles(deck.GetIncludedFiles()),
       m_missingIncludeFiles(deck.GetMissingIncludeFiles()) {

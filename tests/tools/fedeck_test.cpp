@@ -112,7 +112,7 @@ TEST_F(FedeckProgram, UsageErrorsExitWithTwoAndUsageOnStandardError) {
         {{"tree", "--json", "deck.inp"}, "fedeck: option '--json' does not apply to 'tree'\n"},
         {{"encrypt", "a", "b"}, "fedeck: 'encrypt' needs a non-empty --password\n"},
         {{"check", "--until", "mesh", "deck.inp"},
-         "fedeck: unknown stage 'mesh'; known stages: parse\n"},
+         "fedeck: unknown stage 'mesh'; known stages: parse, expand, organize\n"},
     };
     for (auto const& [arguments, message] : cases) {
         Outcome const result = run(arguments);
@@ -144,12 +144,29 @@ TEST_F(FedeckProgram, CleanDeckSucceedsWithSummaryAndJson) {
               "\n");
 }
 
+// Each stage relies on a sound result of the one before, so the first stage
+// that reports errors is the last to run; --until stops earlier on request.
+TEST_F(FedeckProgram, ChecksStopAtTheStageThatReportsErrors) {
+    write("unknown.inp", "*HEADING, TITLE=X\n*NODE\n1, 0., 0.\n");
+    Outcome const expand = run({"check", "--json", "unknown.inp"});
+    EXPECT_EQ(expand.status, 1);
+    EXPECT_NE(expand.out.find(R"("stage": "expand")"), std::string::npos) << expand.out;
+    EXPECT_NE(expand.out.find("Unknown parameter: title."), std::string::npos) << expand.out;
+
+    write("late.inp", "*STEP\n*STATIC\n*END STEP\n*NODE\n1, 0., 0.\n");
+    Outcome const organize = run({"check", "--json", "late.inp"});
+    EXPECT_EQ(organize.status, 1);
+    EXPECT_NE(organize.out.find(R"("stage": "organize")"), std::string::npos) << organize.out;
+    EXPECT_NE(organize.out.find("The keyword is misplaced."), std::string::npos) << organize.out;
+    EXPECT_EQ(run({"check", "--until", "expand", "late.inp"}).status, 0);
+}
+
 TEST_F(FedeckProgram, UnknownKeywordIsAnErrorInTextAndJson) {
     write("deck.inp", "*FROBNICATE\n*NODE\n1, 0., 0.\n");
     Outcome const text = run({"check", "deck.inp"});
     EXPECT_EQ(text.status, 1);
     EXPECT_EQ(text.out, std::string("deck.inp: error: ") + kUnknownKeywordText +
-                            "\ndeck.inp: 1 keyword, 1 error, 0 warnings\n");
+                            "\ndeck.inp: 1 keyword, 1 error, 0 warnings (stopped after parse)\n");
     Outcome const json = run({"check", "--json", "deck.inp"});
     EXPECT_EQ(json.status, 1);
     EXPECT_NE(json.out.find(R"("diagnostics": [{"severity": "error", "level": 1, "text": )"
@@ -191,7 +208,7 @@ TEST_F(FedeckProgram, MissingIncludeIsFatalAndListed) {
     EXPECT_EQ(text.out,
               "deck.inp: fatal error: Include file \"part.inp\" does not exist.\n"
               "deck.inp: fatal error: Include file \"gone.inp\" does not exist.\n"
-              "deck.inp: 1 keyword, 2 errors, 0 warnings\n");
+              "deck.inp: 1 keyword, 2 errors, 0 warnings (stopped after parse)\n");
 }
 
 TEST_F(FedeckProgram, TreeOutputParsesBackToTheSameKeywords) {

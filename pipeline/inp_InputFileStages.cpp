@@ -1,0 +1,82 @@
+// The first stages after parsing: expansion, which validates and normalises
+// every keyword, and organization, which makes the flat keyword list a tree.
+
+#include "expansion/inp_KeywordExpansionVisitor.h"
+#include "pipeline/inp_InputFile.h"
+#include "pipeline/inp_OrganizerVisitor.h"
+#include "support/omi_Timer.h"
+#include "support/pnt_PrettyPrint.h"
+#include "support/thr_Singleton.h"
+#include "support/typ_DebugFlags.h"
+#include "support/utl_CommandLine.h"
+#include "support/wip_WIP.h"
+
+namespace {
+
+constexpr int kDebugFlag = 30;
+
+// Prints a stage's time at debug level 1 or more: its label, the elapsed
+// seconds, then the CPU seconds.
+void printStageTime(char const* label, omi_Timer& timer) {
+    timer.Stop();
+    if (typ_DebugFlags::GetDebugFlags(kDebugFlag) < 1) return;
+    pnt_debugPrint().StartDebug(__FILE__, __LINE__);
+    pnt_debugPrint() << label << timer.GetElapsedTime() << "  CPU time: " << timer.GetTotalCpuTime();
+    pnt_debugPrint().EndDebug();
+}
+
+// Results go to the results database unless the command line names another
+// format; the symmetric-model rules of the expansion depend on it.
+bool resultsFormatIsOdb() {
+    utl_CommandLine const& commandLine = utl_CommandLine::Instance();
+    cow_String const option("resultsFormat");
+    return !commandLine.IsMember(option) || commandLine.ConstGetValue(option) == cow_String("odb");
+}
+
+}  // namespace
+
+void inp_InputFile::ExpandKeywords() {
+    omi_Timer timer;
+    timer.Start();
+
+    inp_KeywordExpansionVisitor expansion;
+    expansion.SetIncludePath(m_includePath);
+    expansion.SetNumberRestartSteps(m_numberRestartSteps);
+    expansion.SetResultsFormatOdb(resultsFormatIsOdb());
+    expansion.VisitListAndReport(m_keywords);
+
+    m_partsAndAssembly = expansion.FeatureEnhanced();
+    m_instancePartNames = expansion.ConstGetInstancePartNames();
+    m_parameterized = expansion.IsParameterized();
+
+    bool const explicitRigidSurface = expansion.IsExplicitJob() && expansion.HasRigidSurfaceKeyword();
+    if (explicitRigidSurface) {
+        thr_ThreadSingleton<wip_WIP>::Instance().Error(
+            atr("the *RIGID SURFACE option is not supported in Fenrik/Explicit; use the *SURFACE option in "
+                "conjunction with the *RIGID BODY option instead."),
+            wip_LEVEL1);
+    }
+
+    // A deck of parts can always be handled as one; a flat deck can be made
+    // into a part only if nothing in it stands against that.
+    if (m_partsAndAssembly) {
+        m_partModelAllowed = true;
+    } else if (m_partModelAllowed) {
+        if (expansion.IsElementFileParameter() || explicitRigidSurface || expansion.HasNmapBlended())
+            m_partModelAllowed = false;
+    }
+
+    DiscardEmptyKeywords();
+    printStageTime("Expand Keywords - Elapsed time: ", timer);
+}
+
+void inp_InputFile::Reorganize() {
+    omi_Timer timer;
+    timer.Start();
+
+    inp_OrganizerVisitor organizer(m_partsAndAssembly);
+    organizer.VisitListAndReport(m_keywords);
+    m_keywords = organizer.Keywords();
+    DiscardEmptyKeywords();
+    printStageTime("Reorganize - Elapsed time: ", timer);
+}
