@@ -1,5 +1,6 @@
-// Parsing whole decks through inp_InputFile::Parse: throughput and the peak
-// memory a parse adds.
+// Parsing whole decks through inp_InputFile::Parse, and the first stages
+// after it (Parse, ExpandKeywords, Reorganize): throughput and the peak
+// memory they add.
 //
 // The decks are generated once into a temporary directory that is removed at
 // exit: a flat block of N^3 bricks (N = 100 by default, about 110 MB), a
@@ -8,7 +9,7 @@
 //
 // Counters: MB/s (decimal megabytes of deck per second of wall time),
 // deck_MB, peak_MB (growth of the resident set's high-water mark over one
-// parse, measured in a forked child so that nothing else the process did
+// run of the stages, measured in a forked child so that nothing else the process did
 // counts), peak_per_deck (peak_MB / deck_MB), and release_ms (time to free
 // the keyword list afterwards, which the timings leave out).
 
@@ -62,11 +63,22 @@ class DeckDirectory {
     std::filesystem::path m_path;
 };
 
+// How far down the pipeline a benchmark runs.
+enum class Stages { ParseOnly, ThroughOrganize, Count };
+
 struct Deck {
     std::string path;
     double megabytes = 0;
-    std::optional<double> peakGrowthMegabytes;  // measured once, on first use
+    // Measured once per kind of run, on first use.
+    std::optional<double> peakGrowthMegabytes[static_cast<int>(Stages::Count)];
 };
+
+void runStages(inp_InputFile& input, cow_String const& path, Stages stages) {
+    input.Parse(path);
+    if (stages == Stages::ParseOnly) return;
+    input.ExpandKeywords();
+    input.Reorganize();
+}
 
 // The value of a "Name:   1234 kB" line of /proc/self/status, in bytes; 0 if absent.
 double statusBytes(char const* field) {
@@ -98,7 +110,7 @@ int takeDiagnostics() {
 // Runs one parse in a child process, whose heap holds nothing left over from
 // earlier parses, and returns how far the resident set's peak rose above its
 // size before the parse. Negative if it couldn't be measured.
-double measurePeakGrowth(std::string const& path) {
+double measurePeakGrowth(std::string const& path, Stages stages) {
     int channel[2];
     if (pipe(channel) != 0) return -1;
     pid_t const child = fork();
@@ -111,7 +123,7 @@ double measurePeakGrowth(std::string const& path) {
         if (resetPeakResidentSet()) {
             double const before = statusBytes("VmRSS");
             inp_InputFile input;
-            input.Parse(cow_String(path.c_str()));
+            runStages(input, cow_String(path.c_str()), stages);
             growth = statusBytes("VmHWM") - before;
         }
         ssize_t const written = write(channel[1], &growth, sizeof growth);
@@ -125,8 +137,9 @@ double measurePeakGrowth(std::string const& path) {
     return growth;
 }
 
-void BM_Parse(benchmark::State& state, Deck* deck) {
-    if (!deck->peakGrowthMegabytes) deck->peakGrowthMegabytes = measurePeakGrowth(deck->path) / 1e6;
+void BM_Stages(benchmark::State& state, Deck* deck, Stages stages) {
+    std::optional<double>& peak = deck->peakGrowthMegabytes[static_cast<int>(stages)];
+    if (!peak) peak = measurePeakGrowth(deck->path, stages) / 1e6;
     std::chrono::duration<double> parsing{};
     std::chrono::duration<double> releasing{};
     int diagnostics = takeDiagnostics();
@@ -134,7 +147,7 @@ void BM_Parse(benchmark::State& state, Deck* deck) {
     for (auto _ : state) {
         std::optional<inp_InputFile> input(std::in_place);
         auto const start = std::chrono::steady_clock::now();
-        input->Parse(path);
+        runStages(*input, path, stages);
         parsing += std::chrono::steady_clock::now() - start;
         // Freeing millions of data lines is not parsing: keep it out of the figures.
         state.PauseTiming();
@@ -151,8 +164,8 @@ void BM_Parse(benchmark::State& state, Deck* deck) {
     state.counters["release_ms"] =
         releasing.count() * 1e3 / static_cast<double>(state.iterations());
     state.counters["deck_MB"] = deck->megabytes;
-    state.counters["peak_MB"] = *deck->peakGrowthMegabytes;
-    state.counters["peak_per_deck"] = *deck->peakGrowthMegabytes / deck->megabytes;
+    state.counters["peak_MB"] = *peak;
+    state.counters["peak_per_deck"] = *peak / deck->megabytes;
 }
 
 int benchSize() {
@@ -176,11 +189,14 @@ void registerCase(DeckDirectory const& directory, std::map<std::string, Deck>& d
     Deck& deck = decks[name];
     deck.path = directory.Path(name + ".inp");
     deck.megabytes = static_cast<double>(inp_WriteDeck(layout, deck.path)) / 1e6;
-    benchmark::RegisterBenchmark(("Parse/" + name).c_str(), BM_Parse, &deck)
-        ->Unit(benchmark::kMillisecond)
-        ->UseRealTime()
-        ->Iterations(iterations)
-        ->Repetitions(5);
+    for (Stages stages : {Stages::ParseOnly, Stages::ThroughOrganize}) {
+        std::string const label = stages == Stages::ParseOnly ? "Parse/" : "ParseExpandOrganize/";
+        benchmark::RegisterBenchmark((label + name).c_str(), BM_Stages, &deck, stages)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime()
+            ->Iterations(iterations)
+            ->Repetitions(5);
+    }
 }
 
 }  // namespace

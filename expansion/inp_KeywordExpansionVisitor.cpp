@@ -5,7 +5,6 @@
 
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_RawDataArrayImpl.h"
-#include "expansion/inp_Schema.h"
 #include "mesh/inp_Utils.h"
 #include "support/ZELBasUtlFilePath.h"
 #include "support/aio_Stream.h"
@@ -13,12 +12,9 @@
 namespace {
 
 constexpr char const* kNoWords[] = {nullptr};
-constexpr char const* kAssemblyWords[] = {"name", nullptr};
 
 // getline's buffer for data files: at most 255 characters a line.
 constexpr int kDataFileLineBuffer = 256;
-constexpr int kSetLineItems = 16;
-constexpr int kTimePointsLineItems = 8;
 
 bool isType(inp_Item const& item, inp_Types::typeEnm type) {
     return item.Type() == type;
@@ -164,6 +160,12 @@ void inp_KeywordExpansionVisitor::ExpandByRow(inp_Keyword& keyword, inp_SchemaRo
         return;
     }
     expandParameterNames(keyword, row->parameters);
+    expandRowEnumerations(keyword, row);
+}
+
+void inp_KeywordExpansionVisitor::expandRowEnumerations(inp_Keyword& keyword,
+                                                        inp_SchemaRow const* row) {
+    if (!row) return;
     for (inp_SchemaEnum const& enumeration : row->enumerations) {
         cow_String const* key = matchedKey(enumeration.parameter);
         if (!key) continue;
@@ -177,75 +179,6 @@ void inp_KeywordExpansionVisitor::ExpandNothing(inp_Keyword&, inp_SchemaRow cons
 
 void inp_KeywordExpansionVisitor::ExpandAsDefault(inp_Keyword& keyword, inp_SchemaRow const*) {
     DefaultAction(keyword);
-}
-
-// -- the keywords' own handlers ----------------------------------------------------------
-
-// The assembly model is entered before anything else, so that the waiting
-// messages come out ahead of this keyword's own.
-void inp_KeywordExpansionVisitor::HandleAssembly(inp_Keyword& keyword, inp_SchemaRow const*) {
-    EnterAssemblyModel();
-    ExpandParameters(keyword, kAssemblyWords);
-}
-
-void inp_KeywordExpansionVisitor::HandleInstance(inp_Keyword& keyword, inp_SchemaRow const* row) {
-    EnterAssemblyModel();
-    ExpandByRow(keyword, row);
-}
-
-void inp_KeywordExpansionVisitor::HandlePart(inp_Keyword& keyword, inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    EnterAssemblyModel();
-}
-
-void inp_KeywordExpansionVisitor::HandleDynamic(inp_Keyword& keyword, inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    if (keyword.HasParameter("explicit")) m_explicitJob = true;
-}
-
-void inp_KeywordExpansionVisitor::HandleRigidSurface(inp_Keyword& keyword,
-                                                     inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    m_hasRigidSurfaceKeyword = true;
-}
-
-// *PARAMETER lines are evaluated by a stage of their own: nothing to expand.
-void inp_KeywordExpansionVisitor::HandleParameter(inp_Keyword&, inp_SchemaRow const*) {
-    m_parameterized = true;
-}
-
-void inp_KeywordExpansionVisitor::HandleParameterShapeVariation(inp_Keyword& keyword,
-                                                                inp_SchemaRow const*) {
-    ExpandByRow(keyword, inp_Schema::Find(inp_kw_ParameterShapeVariation));
-    ProcessInputParameter(keyword);
-}
-
-void inp_KeywordExpansionVisitor::HandleDataFileKeyword(inp_Keyword& keyword,
-                                                        inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    ProcessInputParameter(keyword);
-}
-
-void inp_KeywordExpansionVisitor::HandleSpectrum(inp_Keyword& keyword, inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    ProcessInputParameter(keyword);
-    consumeFileParameter(keyword, "file");
-}
-
-void inp_KeywordExpansionVisitor::HandleNset(inp_Keyword& keyword, inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    TruncateEachDataLineBeyondItemN(keyword, kSetLineItems);
-}
-
-void inp_KeywordExpansionVisitor::HandleElset(inp_Keyword& keyword, inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    TruncateEachDataLineBeyondItemN(keyword, kSetLineItems);
-}
-
-void inp_KeywordExpansionVisitor::HandleTimePoints(inp_Keyword& keyword,
-                                                   inp_SchemaRow const* row) {
-    ExpandByRow(keyword, row);
-    TruncateEachDataLineBeyondItemN(keyword, kTimePointsLineItems);
 }
 
 // -- parameter names --------------------------------------------------------------------------
@@ -624,6 +557,21 @@ void inp_KeywordExpansionVisitor::error(inp_Keyword const& keyword, atr_String c
     AddError(inp_Utils::MessageInKeyword(keyword, text));
 }
 
+void inp_KeywordExpansionVisitor::errorAtFront(inp_Keyword const& keyword,
+                                               atr_String const& text) {
+    m_errors.Prepend(inp_Utils::MessageInKeyword(keyword, text));
+}
+
+void inp_KeywordExpansionVisitor::fatalError(inp_Keyword const& keyword, atr_String const& text) {
+    AddFatalError(inp_Utils::MessageInKeyword(keyword, text));
+}
+
 void inp_KeywordExpansionVisitor::warning(inp_Keyword const& keyword, atr_String const& text) {
     AddWarning(inp_Utils::MessageInKeyword(keyword, text));
+}
+
+bool inp_KeywordExpansionVisitor::hasStringParameter(inp_Keyword const& keyword,
+                                                     cow_String const& name) {
+    inp_Item const* item = keyword.Parameters().Find(name);
+    return item && isType(*item, inp_Types::inp_STRING);
 }

@@ -17,6 +17,7 @@
 // the schema and from the stage's own handlers (inp_KeywordExpansionDispatch.cpp).
 
 #include <span>
+#include <unordered_set>
 #include <vector>
 
 #include "expansion/inp_SchemaRow.h"
@@ -173,24 +174,77 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     // -- the routes that are not a keyword's own ---------------------------------------
     // The generic handler: the row's words, then its enumerations in order.
     void ExpandByRow(inp_Keyword& keyword, inp_SchemaRow const* row);
+    // The second half of the generic handler, for handlers that do more
+    // between the names and the values. Reads m_matched, so no other
+    // ExpandParameters may run in between.
+    void expandRowEnumerations(inp_Keyword& keyword, inp_SchemaRow const* row);
     void ExpandNothing(inp_Keyword& keyword, inp_SchemaRow const* row);
     void ExpandAsDefault(inp_Keyword& keyword, inp_SchemaRow const* row);
 
-    // -- the keywords' own handlers ---------------------------------------------------
+    // -- the keywords' own handlers: the structure of a deck ---------------------------
+    // (inp_StructureKeywordHandlers.cpp)
+    void HandlePart(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleAssembly(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleInstance(inp_Keyword& keyword, inp_SchemaRow const* row);
-    void HandlePart(inp_Keyword& keyword, inp_SchemaRow const* row);
-    void HandleDynamic(inp_Keyword& keyword, inp_SchemaRow const* row);
-    void HandleRigidSurface(inp_Keyword& keyword, inp_SchemaRow const* row);
-    void HandleParameter(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleEndPart(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleStep(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleRestart(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleImport(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleConflicts(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleDisplayBody(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleCoSimulationControls(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleIntegratedOutputSection(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleNode(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleElement(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleNset(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleElset(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleTimePoints(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleSurface(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleMaterial(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleBoundary(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleMatrixInput(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleNmap(inp_Keyword& keyword, inp_SchemaRow const* row);
     // Also *DESIGN SHAPE VARIATION, with the words of this keyword.
     void HandleParameterShapeVariation(inp_Keyword& keyword, inp_SchemaRow const* row);
     // The keywords whose data may come from an `input` file.
     void HandleDataFileKeyword(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleSpectrum(inp_Keyword& keyword, inp_SchemaRow const* row);
-    void HandleNset(inp_Keyword& keyword, inp_SchemaRow const* row);
-    void HandleElset(inp_Keyword& keyword, inp_SchemaRow const* row);
-    void HandleTimePoints(inp_Keyword& keyword, inp_SchemaRow const* row);
+    // The keywords of the table of required parameters, with or without a
+    // data file; *INCLUDE is one of them.
+    void HandleKeywordWithRequiredParameters(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleDataFileKeywordWithRequiredParameters(inp_Keyword& keyword,
+                                                     inp_SchemaRow const* row);
+    // The keywords whose only check of their own is the assembly-model rule.
+    void HandleAssemblyModelRule(inp_Keyword& keyword, inp_SchemaRow const* row);
+
+    // -- the keywords' own handlers: values with a logic of their own --------------------
+    // (inp_ValueKeywordHandlers.cpp)
+    void HandlePlastic(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleInitialConditions(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandlePermeability(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleContactPair(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleContactInclusions(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleConnectorSection(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleRigidBody(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleCoupling(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleDynamic(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleRigidSurface(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleParameter(inp_Keyword& keyword, inp_SchemaRow const* row);
+
+    // -- rules shared by the handlers ----------------------------------------------------
+    // The constructs refused in an assembly model (inp_StructureKeywordHandlers.cpp):
+    // the keyword's line of the rule table, if its condition holds, gives its
+    // message by the deferral rule of AddAssemblyModelError.
+    void applyAssemblyModelRule(inp_Keyword& keyword);
+    // The keyword's lines of the table of required parameters, in order.
+    // Each failure is an error and blanks the keyword, so the lines after it
+    // fail too (one table line instead gives a fatal error and blanks nothing).
+    void applyRequiredParameterRules(inp_Keyword& keyword);
+    // The name test of *BOUNDARY and *MATRIX INPUT.
+    void checkNameStartsWithLetter(inp_Keyword& keyword, char const* message);
+    // The range of `numberbackstresses`, for *PLASTIC and *INITIAL CONDITIONS
+    // (inp_ValueKeywordHandlers.cpp).
+    void checkNumberOfBackstresses(inp_Keyword& keyword);
 
     // -- helpers of the engine ----------------------------------------------------------
     // ExpandParameters, remembering in m_matched the names that became words.
@@ -204,7 +258,14 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     bool checkValue(inp_Keyword& keyword, char const* name, bool (*accepts)(inp_Item const&),
                     char const* format);
     void error(inp_Keyword const& keyword, atr_String const& text);
+    // Ahead of every error already listed: the duplicate-name messages.
+    void errorAtFront(inp_Keyword const& keyword, atr_String const& text);
+    void fatalError(inp_Keyword const& keyword, atr_String const& text);
     void warning(inp_Keyword const& keyword, atr_String const& text);
+    // The parameter is present and its item is of string type.
+    static bool hasStringParameter(inp_Keyword const& keyword, cow_String const& name);
+    // Marks the keyword for removal after the stage: key 0, nothing in it.
+    static void blank(inp_Keyword& keyword) { keyword = inp_Keyword(); }
 
     // The fields, in the order of the stage's data model.
     bool m_resultsFormatOdb = true;
@@ -223,6 +284,11 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     cow_List<cow_String> m_partNames;      // newest first
     cow_List<cow_String> m_instanceNames;  // of the current assembly, newest first
     cow_List<cow_String> m_stepNames;
+    // The same names for the lookups: a deck may hold many thousand
+    // instances, and a scan of the list for each would be quadratic.
+    std::unordered_set<cow_String> m_knownPartNames;
+    std::unordered_set<cow_String> m_knownInstanceNames;
+    std::unordered_set<cow_String> m_knownStepNames;
     cow_List<cow_String> m_includedFiles;
     inpM_InstanceMap<cow_String> m_instancePartNames;
     cow_Map<cow_String, cow_String> m_instancePartCopy;

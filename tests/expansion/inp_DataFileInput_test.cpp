@@ -134,7 +134,8 @@ TEST_F(DataFileInput, DeckKeywordsConsumeTheirFilesThroughTheirHandlers) {
     ASSERT_EQ(keywords.Length(), 3);
     visitor.SetIncludePath(dir.Directory());
     visitor.VisitList(keywords);
-    EXPECT_EQ(dataOf(keywords[0]), "1,0.,0.|2,1.,0.");
+    // The node lines were read, then packed: seven columns a row.
+    EXPECT_EQ(dataOf(keywords[0]), "1,0,0,0,0,0,0|2,1,0,0,0,0,0");
     EXPECT_EQ(dataOf(keywords[1]), "1.,2.");
     EXPECT_EQ(dataOf(keywords[2]), "3,4");
     EXPECT_FALSE(keywords[1].HasParameter("file") || keywords[2].HasParameter("input"));
