@@ -1,4 +1,4 @@
-// libFuzzer target for the deck parser.
+// libFuzzer target for the deck parser and the first stages behind it.
 //
 // Each input becomes a deck file. If it holds the line "** file inc.inp", the
 // bytes behind that line become a second file, inc.inp, in the same scratch
@@ -11,8 +11,10 @@
 // parser.
 //
 // The deck is parsed three times: strict, lenient, and strict without data
-// lines. Nothing is caught: for a file that exists the parser must report
-// through its lists and never throw.
+// lines; the keywords of the strict parse then go through expansion and
+// organization. Nothing is caught: for a file that exists the parser must
+// report through its lists and never throw, and the stages must take
+// whatever the parser made.
 
 #include <unistd.h>
 
@@ -25,7 +27,9 @@
 #include <string>
 #include <string_view>
 
+#include "expansion/inp_KeywordExpansionVisitor.h"
 #include "parser/inp_Parser.h"
+#include "pipeline/inp_OrganizerVisitor.h"
 
 namespace {
 
@@ -93,12 +97,29 @@ std::size_t walk(cow_List<inp_Keyword> const& keywords) {
     return cells;
 }
 
-void parse(ScratchDirectory const& files, bool strict, bool bulk) {
+cow_List<inp_Keyword> parse(ScratchDirectory const& files, bool strict, bool bulk) {
     inp_Parser parser(files.Deck(), files.Directory(), cow_List<cow_String>(), cow_String(), strict,
                       bulk, false);
     cow_List<inp_Keyword> const keywords = parser.Parse(strict);
     volatile std::size_t sink = walk(keywords) + parser.GetErrors().Length() +
                                 parser.GetWarnings().Length() + parser.GetFatalErrors().Length();
+    (void)sink;
+    return keywords;
+}
+
+// The visitors' own walks, without the report to the message sink, which
+// would only pile up the diagnostics of every input.
+void expandAndOrganize(ScratchDirectory const& files, cow_List<inp_Keyword> keywords) {
+    inp_KeywordExpansionVisitor expansion;
+    expansion.SetIncludePath(files.Directory());
+    expansion.VisitList(keywords);
+    inp_OrganizerVisitor organizer(expansion.FeatureEnhanced());
+    organizer.VisitList(keywords);
+    cow_List<inp_Keyword> const tree = organizer.Keywords();
+    std::size_t cells = walk(tree);
+    for (inp_Keyword const& keyword : tree) cells += walk(keyword.Suboptions());
+    volatile std::size_t sink = cells + expansion.GetErrorList().Length() +
+                                organizer.GetFatalErrorList().Length();
     (void)sink;
 }
 
@@ -116,7 +137,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         files.WriteDeck(input.substr(0, marker));
         files.WriteInclude(input.substr(marker + kIncludeMarker.size()));
     }
-    parse(files, true, true);
+    expandAndOrganize(files, parse(files, true, true));
     parse(files, false, true);
     parse(files, true, false);
     return 0;

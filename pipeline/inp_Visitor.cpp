@@ -130,10 +130,13 @@ void inp_Visitor::VisitPart(inp_Keyword& keyword) {
     DefaultAction(keyword);
 }
 
-// An *ASSEMBLY without a name is a fault of an earlier stage: the lookup
-// fails an assertion.
+// A new *ASSEMBLY or *STEP scope always takes the keyword's name. The
+// expansion stage reports an *ASSEMBLY without a name but keeps the keyword,
+// and a caller may walk a list that expansion has not seen, so a missing
+// name is input, not a fault of the program: the scope name is then empty.
 void inp_Visitor::VisitAssembly(inp_Keyword& keyword) {
-    m_assemblyName = keyword.Parameters().ConstGet(cow_String("name")).AsString();
+    m_assemblyName = cow_String();
+    takeParameter(keyword, "name", m_assemblyName);
     DefaultAction(keyword);
 }
 
@@ -142,9 +145,9 @@ void inp_Visitor::VisitInstance(inp_Keyword& keyword) {
     DefaultAction(keyword);
 }
 
-// As for *ASSEMBLY, the name must be there.
 void inp_Visitor::VisitStep(inp_Keyword& keyword) {
-    m_stepName = keyword.Parameters().ConstGet(cow_String("name")).AsString();
+    m_stepName = cow_String();
+    takeParameter(keyword, "name", m_stepName);
     DefaultAction(keyword);
 }
 

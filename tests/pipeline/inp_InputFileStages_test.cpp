@@ -87,6 +87,13 @@ TEST_F(InputFileStages, FlatDeckKeepsItsKeywordsOnTopAndDefectiveOnesAreDiscarde
     EXPECT_EQ(input.Keywords()[0].Keyword(), inp_kw_Node);
 }
 
+TEST_F(InputFileStages, AnUnnamedAssemblyIsReportedAndStillOrganized) {
+    expand("*ASSEMBLY\n*END ASSEMBLY\n*STEP\n*STATIC\n*END STEP\n");
+    input.Reorganize();
+    EXPECT_NE(diagnostics().find("The NAME parameter is required."), std::string::npos);
+    EXPECT_EQ(input.Keywords()[0].Keyword(), inp_kw_Assembly);
+}
+
 TEST_F(InputFileStages, RigidSurfaceInAnExplicitJobIsRefusedAndBarsThePartModel) {
     expand("*RIGID SURFACE, NAME=R, TYPE=CYLINDER, REF NODE=1\n"
            "*STEP\n*DYNAMIC, EXPLICIT\n, 1.0\n*END STEP\n");

@@ -210,7 +210,7 @@ TEST(VisitorScope, InstanceTakesNameElseInstanceElseKeepsItsValue) {
     EXPECT_EQ(visitor.InstanceName(), "");
 }
 
-TEST(VisitorScope, AssemblyAndStepNeedTheirNameAndEndKeywordsEmptyIt) {
+TEST(VisitorScope, AssemblyAndStepTakeTheirNameAndEndKeywordsEmptyIt) {
     TraceVisitor visitor;
     inp_Keyword assembly = named(inp_kw_Assembly, "name", "A");
     inp_Keyword step = named(inp_kw_Step, "name", "S1");
@@ -219,10 +219,15 @@ TEST(VisitorScope, AssemblyAndStepNeedTheirNameAndEndKeywordsEmptyIt) {
     EXPECT_EQ(visitor.AssemblyName(), "A");
     EXPECT_EQ(visitor.StepName(), "S1");
 
+    // A keyword without a name opens a scope without a name.
     inp_Keyword unnamedStep(inp_kw_Step);
-    EXPECT_THROW(visitor.Visit(unnamedStep), ZELBasAssertException);
     inp_Keyword unnamedAssembly(inp_kw_Assembly);
-    EXPECT_THROW(visitor.Visit(unnamedAssembly), ZELBasAssertException);
+    visitor.Visit(unnamedStep);
+    visitor.Visit(unnamedAssembly);
+    EXPECT_EQ(visitor.StepName(), "");
+    EXPECT_EQ(visitor.AssemblyName(), "");
+    visitor.Visit(step);
+    visitor.Visit(assembly);
 
     inp_Keyword endStep(inp_kw_EndStep);
     inp_Keyword endAssembly(inp_kw_EndAssembly);
