@@ -6,58 +6,16 @@
 #include <string>
 #include <vector>
 
-#include "../parser/TempDeckDirectory.h"
-#include "expansion/inp_KeywordExpansionVisitor.h"
-#include "parser/inp_Parser.h"
+#include "ExpandedDeck.h"
 
 namespace {
-
-template <class Text>
-std::vector<std::string> texts(cow_List<Text> const& list) {
-    std::vector<std::string> result;
-    for (Text const& text : list) result.emplace_back(text.View());
-    return result;
-}
 
 std::string valueOf(inp_Keyword const& keyword, char const* name) {
     inp_Item const* item = keyword.Parameters().Find(name);
     return item ? std::string(item->AsString().View()) : "<absent>";
 }
 
-using Messages = std::vector<std::string>;
-
-class StructureKeywords : public ::testing::Test {
-  protected:
-    // Parses `text` as the file deck.inp and walks the expansion over it.
-    void expand(std::string const& text) {
-        m_path = dir.Write("deck.inp", text);
-        keywords = expandWith(visitor, "deck.inp", text);
-    }
-    // The same with another visitor and file.
-    cow_List<inp_Keyword> expandWith(inp_KeywordExpansionVisitor& expansion,
-                                     std::string const& name, std::string const& text) {
-        inp_Parser parser(dir.Write(name, text), dir.Directory(), cow_List<cow_String>(),
-                          cow_String(), true, true, false);
-        cow_List<inp_Keyword> parsed = parser.Parse(true);
-        EXPECT_TRUE(parser.GetErrors().IsEmpty() && parser.GetFatalErrors().IsEmpty());
-        expansion.VisitList(parsed);
-        return parsed;
-    }
-    // The decoration of a message about the keyword `name` on deck line `line`.
-    std::string at(char const* name, int line) const {
-        return std::string("in keyword *") + name + ", file \"" + m_path.CStr() + "\", line " +
-               std::to_string(line) + ": ";
-    }
-    Messages errors() const { return texts(visitor.GetErrorList()); }
-    Messages fatalErrors() const { return texts(visitor.GetFatalErrorList()); }
-
-    TempDeckDirectory dir;
-    inp_KeywordExpansionVisitor visitor;
-    cow_List<inp_Keyword> keywords;
-
-  private:
-    cow_String m_path;
-};
+using StructureKeywords = ExpandedDeck;
 
 std::string const kUnknownX =
     "Unknown parameter: x. The parameter may be misspelled, obsolete, or invalid.";

@@ -6,49 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "../parser/TempDeckDirectory.h"
-#include "expansion/inp_KeywordExpansionVisitor.h"
-#include "parser/inp_Parser.h"
+#include "ExpandedDeck.h"
 
 namespace {
-
-using Messages = std::vector<std::string>;
-
-Messages texts(cow_List<atr_String> const& list) {
-    Messages result;
-    for (atr_String const& text : list) result.emplace_back(text.View());
-    return result;
-}
 
 inp_Item const& itemOf(inp_Keyword const& keyword, char const* name) {
     return keyword.Parameters().ConstGet(name);
 }
 
-class ValueKeywords : public ::testing::Test {
-  protected:
-    // Parses `text` as the file deck.inp and walks the expansion over it.
-    void expand(std::string const& text) {
-        m_path = dir.Write("deck.inp", text);
-        inp_Parser parser(m_path, dir.Directory(), cow_List<cow_String>(), cow_String(), true, true,
-                          false);
-        keywords = parser.Parse(true);
-        ASSERT_TRUE(parser.GetErrors().IsEmpty() && parser.GetFatalErrors().IsEmpty());
-        visitor.VisitList(keywords);
-    }
-    std::string at(char const* name, int line) const {
-        return std::string("in keyword *") + name + ", file \"" + m_path.CStr() + "\", line " +
-               std::to_string(line) + ": ";
-    }
-    Messages errors() const { return texts(visitor.GetErrorList()); }
-    Messages fatalErrors() const { return texts(visitor.GetFatalErrorList()); }
-
-    TempDeckDirectory dir;
-    inp_KeywordExpansionVisitor visitor;
-    cow_List<inp_Keyword> keywords;
-
-  private:
-    cow_String m_path;
-};
+using ValueKeywords = ExpandedDeck;
 
 std::string const kNoDataLine = "Required values need to be specified on the dataline.";
 
