@@ -134,6 +134,12 @@ std::span<inp_KeywordExpansionVisitor::OwnHandler const> inp_KeywordExpansionVis
     return kOwnHandlers;
 }
 
+bool inp_KeywordExpansionVisitor::HasHandlerOfItsOwn(int key) {
+    for (OwnHandler const& own : OwnHandlers())
+        if (own.key == key) return true;
+    return false;
+}
+
 // -- the lookup by key -------------------------------------------------------------------------
 
 namespace {

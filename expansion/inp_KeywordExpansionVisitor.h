@@ -146,6 +146,10 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     // to the errors, in order, behind the errors already there.
     void EnterAssemblyModel();
 
+    // Whether the keyword with this key has a handler of its own beyond the
+    // generic handler of its schema row (every keyword of the logic kind has).
+    static bool HasHandlerOfItsOwn(int key);
+
   private:
     using Handler = void (inp_KeywordExpansionVisitor::*)(inp_Keyword&, inp_SchemaRow const*);
     // A keyword with a handler of its own (in inp_KeywordExpansionDispatch.cpp).

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "deck/inp_Exceptions.h"
+#include "expansion/inp_Schema.h"
 
 namespace {
 
@@ -353,4 +354,17 @@ TEST(SchemaDrivenExpansion, OwnHandlersSetTheirFlagsAndEndScopesKeepTheBaseHandl
     EXPECT_EQ(texts(visitor.GetErrorList()),
               std::vector<std::string>{at("ENDSTEP") + "Unknown parameter: x. The parameter may be "
                                                        "misspelled, obsolete, or invalid."});
+}
+
+// A keyword of the logic kind whose handler was never registered would be
+// expanded by its row alone, and its checks would silently not run. The one
+// exception: the logic of *CONTACT STABILIZATION is the guard on its scale
+// factor (a number or a word), which its row carries.
+TEST(SchemaDrivenExpansion, EveryLogicKeywordHasAHandlerOfItsOwn) {
+    std::string missing;
+    for (inp_SchemaRow const* row : inp_Schema::AllRows())
+        if (row->kind == inp_SchemaKind::Logic && row->key != inp_kw_ContactStabilization &&
+            !inp_KeywordExpansionVisitor::HasHandlerOfItsOwn(row->key))
+            missing += std::string(row->keyword) + " ";
+    EXPECT_EQ(missing, "");
 }
