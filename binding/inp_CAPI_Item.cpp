@@ -204,6 +204,9 @@ inp_CAPI_OwnedParamKeyValue::inp_CAPI_OwnedParamKeyValue(cow_String const& name,
     trace("construct inp_CAPI_paramKeyValue", this, value.itemType);
 }
 
+// The base is not copied member by member on purpose: the copy owns new
+// strings, never the other record's.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init)
 inp_CAPI_OwnedParamKeyValue::inp_CAPI_OwnedParamKeyValue(
     inp_CAPI_OwnedParamKeyValue const& other) noexcept {
     key = other.key ? duplicate(other.key, std::strlen(other.key)) : nullptr;

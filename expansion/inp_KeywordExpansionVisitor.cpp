@@ -75,7 +75,7 @@ cow_String withoutQuotes(cow_String const& name) {
 
 // An empty result: not found, as written nor in the include directory.
 cow_String locateDataFile(cow_String const& name, cow_String const& includePath) {
-    cow_String const bare = withoutQuotes(name);
+    cow_String bare = withoutQuotes(name);
     ZELBasUtlFilePath const asWritten(bare);
     if (asWritten.Exists()) return bare;
     if (includePath.IsEmpty()) return cow_String();
