@@ -36,7 +36,9 @@ class UnreadableDeck(DeckTestCase):
                 fedeck.parse(deck)
             return
         # The superuser reads anything: try it as an unprivileged user in a
-        # child process.
+        # child process. The library is loaded first, here: the unprivileged
+        # child might not be allowed to read the build directory.
+        fedeck.library_path()
         os.chmod(self.directory, 0o755)
         child = os.fork()
         if child == 0:
