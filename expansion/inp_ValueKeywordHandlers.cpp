@@ -11,11 +11,6 @@ namespace {
 constexpr char const* kYes[] = {"YES", nullptr};
 constexpr char const* kNo[] = {"NO", nullptr};
 
-// The bare `all` is caught by the first word, which no deck can spell with
-// its blank, instead of being taken for `allexterior`.
-constexpr char const* kContactInclusionsWords[] = {"all ", "allelementbased", "allexterior",
-                                                   nullptr};
-
 // The connection types that the first data line of a connector section may
 // name, by abbreviation too: one that stands for two of them is refused.
 // clang-format off
@@ -103,10 +98,12 @@ void inp_KeywordExpansionVisitor::HandleContactPair(inp_Keyword& keyword,
     }
 }
 
-// Expands with its own three words instead of the generic handler.
+// The row's first word is `all ` with a blank, which no deck can spell: a
+// bare ALL (or a shorter form) lands on it, instead of being taken for
+// `allexterior`, and is refused here.
 void inp_KeywordExpansionVisitor::HandleContactInclusions(inp_Keyword& keyword,
-                                                          inp_SchemaRow const*) {
-    ExpandParameters(keyword, kContactInclusionsWords);
+                                                          inp_SchemaRow const* row) {
+    ExpandParameters(keyword, row->parameters);
     if (!keyword.HasParameter("all ")) return;
     error(keyword, atr("The parameter ALL EXTERIOR cannot be abbreviated to ALL."));
     blank(keyword);
