@@ -566,4 +566,30 @@ enum inp_KeywordEnm : int32_t {
 #undef INP_KEYWORD_ENUMERATOR
 };
 
-inline constexpr int inp_keywordCount = 547;
+// How many keywords the table holds, the special ones included.
+#define INP_KEYWORD_PLUS_ONE(camel, name, number) +1
+inline constexpr int inp_keywordCount = 0 INP_KEYWORDS(INP_KEYWORD_PLUS_ONE);
+#undef INP_KEYWORD_PLUS_ONE
+
+// One past the largest key: the size of an array indexed by key.
+inline constexpr int inp_keywordKeyLimit = [] {
+    int largest = 0;
+#define INP_KEYWORD_LARGEST(camel, name, number) \
+    if (number > largest) largest = number;
+    INP_KEYWORDS(INP_KEYWORD_LARGEST)
+#undef INP_KEYWORD_LARGEST
+    return largest + 1;
+}();
+
+// The table name of a keyword ("endstep" for inp_kw_EndStep); null for a
+// number that is no key.
+constexpr char const* inp_KeywordTableName(inp_KeywordEnm key) {
+    switch (key) {
+#define INP_KEYWORD_NAME_CASE(camel, name, number) \
+    case inp_kw_##camel:                           \
+        return name;
+        INP_KEYWORDS(INP_KEYWORD_NAME_CASE)
+#undef INP_KEYWORD_NAME_CASE
+    }
+    return nullptr;
+}

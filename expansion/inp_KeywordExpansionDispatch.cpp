@@ -1,38 +1,23 @@
-// How the expansion stage reaches a keyword's handling: the handler overrides
-// of the visitor, all alike, and the one table of keywords that have a
-// handler of their own. Every other keyword is handled by the kind of its
-// schema row. Adding a handler is one member and one line in the table.
+// How the expansion stage reaches a keyword's handling: the one table of
+// keywords that have a handler of their own, and the table of routes by key
+// that Visit reads. Every other keyword is handled by the kind of its schema
+// row. Adding a handler is one member and one line in the table.
 
 #include <cstdint>
 
 #include "expansion/inp_KeywordExpansionVisitor.h"
 #include "expansion/inp_Schema.h"
 
-// -- the handler overrides ------------------------------------------------------------------
-
-#define INP_EXPANSION_DEFINE_HANDLER(name)                                  \
-    void inp_KeywordExpansionVisitor::Visit##name(inp_Keyword& keyword) { \
-        ExpandKeyword(keyword);                                             \
-    }
-#define INP_EXPANSION_SCOPED_LISTED_BELOW(name)
-INP_VISITOR_SLOTS(INP_EXPANSION_DEFINE_HANDLER, INP_EXPANSION_SCOPED_LISTED_BELOW)
-INP_EXPANSION_DEFINE_HANDLER(Assembly)
-INP_EXPANSION_DEFINE_HANDLER(EndPart)
-INP_EXPANSION_DEFINE_HANDLER(Instance)
-INP_EXPANSION_DEFINE_HANDLER(Part)
-INP_EXPANSION_DEFINE_HANDLER(Step)
-INP_EXPANSION_DEFINE_HANDLER(SubstructurePath)
-#undef INP_EXPANSION_DEFINE_HANDLER
-#undef INP_EXPANSION_SCOPED_LISTED_BELOW
-
-// Six scoped handlers are overridden above and three (the end of an assembly,
-// an instance, a step) are left to the base class. A scoped slot added to the
-// list must be placed in one group or the other.
+// Visit bypasses the base class's handlers, and with them its scope
+// following; of its scoped handlers only the three ends (of an assembly, an
+// instance, a step) are called, from their own handlers below. A scoped
+// handler added to the base class must be decided on here: called from an
+// own handler, or bypassed like the other six.
 #define INP_EXPANSION_COUNT(name) +1
 #define INP_EXPANSION_NOT_COUNTED(name)
 static_assert(0 INP_VISITOR_SLOTS(INP_EXPANSION_NOT_COUNTED, INP_EXPANSION_COUNT) == 9,
               "a scoped handler was added to inp_VisitorSlots.h: decide whether expansion "
-              "overrides it");
+              "calls it");
 #undef INP_EXPANSION_COUNT
 #undef INP_EXPANSION_NOT_COUNTED
 
@@ -46,6 +31,9 @@ std::span<inp_KeywordExpansionVisitor::OwnHandler const> inp_KeywordExpansionVis
         {inp_kw_Assembly, &V::HandleAssembly},
         {inp_kw_Instance, &V::HandleInstance},
         {inp_kw_EndPart, &V::HandleEndPart},
+        {inp_kw_EndAssembly, &V::HandleEndAssembly},
+        {inp_kw_EndInstance, &V::HandleEndInstance},
+        {inp_kw_EndStep, &V::HandleEndStep},
         {inp_kw_Step, &V::HandleStep},
         {inp_kw_Restart, &V::HandleRestart},
         {inp_kw_Import, &V::HandleImport},
@@ -142,40 +130,33 @@ bool inp_KeywordExpansionVisitor::HasHandlerOfItsOwn(int key) {
 
 // -- the lookup by key -------------------------------------------------------------------------
 
-namespace {
-
-constexpr int largestKey() {
-    int largest = 0;
-#define INP_EXPANSION_LARGEST(camel, name, number) \
-    if (number > largest) largest = number;
-    INP_KEYWORDS(INP_EXPANSION_LARGEST)
-#undef INP_EXPANSION_LARGEST
-    return largest;
-}
-
-constexpr int kKeySlots = largestKey() + 1;
-
-}  // namespace
-
 // Keys are sparse (up to five digits for some 550 keywords), so a small
 // index by key leads into a dense array of routes: two loads a keyword, and
-// both arrays stay in cache over a walk. Built once, read-only after.
+// both arrays stay in cache over a walk. Built once, read-only after. Index 0
+// of the routes is no route: the blanked keyword, the end of file, the model
+// root and every number that is no key.
 class inp_KeywordExpansionVisitor::RouteTable {
   public:
-    RouteTable() : m_routeOfKey(kKeySlots, 0) {
-        m_routes.push_back({nullptr, &inp_KeywordExpansionVisitor::ExpandAsDefault});
+    RouteTable() : m_routeOfKey(inp_keywordKeyLimit, kNoRoute) {
+        m_routes.push_back({nullptr, nullptr});
 #define INP_EXPANSION_ADD_ROUTE(camel, name, number) add(inp_kw_##camel);
         INP_KEYWORDS(INP_EXPANSION_ADD_ROUTE)
 #undef INP_EXPANSION_ADD_ROUTE
+        // *MODAL PRINT takes the options of *PRINT and is handled with it.
+        m_routeOfKey[inp_kw_ModalPrint] = m_routeOfKey[inp_kw_Print];
     }
 
-    Route const& Of(int key) const {
-        if (key < 0 || key >= kKeySlots) return m_routes[0];
-        return m_routes[m_routeOfKey[static_cast<size_t>(key)]];
+    Route const* Of(int key) const {
+        if (key < 0 || key >= inp_keywordKeyLimit) return nullptr;
+        std::uint16_t const route = m_routeOfKey[static_cast<size_t>(key)];
+        return route == kNoRoute ? nullptr : &m_routes[route];
     }
 
   private:
+    static constexpr std::uint16_t kNoRoute = 0;
+
     void add(inp_KeywordEnm key) {
+        if (key == inp_kw_UndefinedKeyword || key == inp_kw_Eof || key == inp_kw_Model) return;
         inp_SchemaRow const* row = inp_Schema::Find(key);
         m_routeOfKey[static_cast<size_t>(key)] = static_cast<std::uint16_t>(m_routes.size());
         m_routes.push_back({row, handlerOf(key, row)});
@@ -202,7 +183,7 @@ class inp_KeywordExpansionVisitor::RouteTable {
     std::vector<Route> m_routes;
 };
 
-inp_KeywordExpansionVisitor::Route const& inp_KeywordExpansionVisitor::RouteOf(int key) {
+inp_KeywordExpansionVisitor::Route const* inp_KeywordExpansionVisitor::RouteOf(int key) {
     static RouteTable const table;
     return table.Of(key);
 }

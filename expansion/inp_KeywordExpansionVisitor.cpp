@@ -3,6 +3,7 @@
 #include <cstring>
 #include <memory>
 
+#include "deck/inp_DeckFileLookup.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_RawDataArrayImpl.h"
 #include "mesh/inp_Utils.h"
@@ -65,24 +66,6 @@ cow_String upperName(inp_Keyword const& keyword) {
     return cow_String(keyword.Name()).ToUpper();
 }
 
-// As for *INCLUDE: a quoted file name is looked up without its quotes, so
-// that names with blanks can be written; messages keep the name as written.
-cow_String withoutQuotes(cow_String const& name) {
-    if (name.Length() >= 2 && name[0] == '"' && name[name.Length() - 1] == '"')
-        return name.Substr(1, name.Length() - 2);
-    return name;
-}
-
-// An empty result: not found, as written nor in the include directory.
-cow_String locateDataFile(cow_String const& name, cow_String const& includePath) {
-    cow_String bare = withoutQuotes(name);
-    ZELBasUtlFilePath const asWritten(bare);
-    if (asWritten.Exists()) return bare;
-    if (includePath.IsEmpty()) return cow_String();
-    ZELBasUtlFilePath const inIncludeDirectory(includePath, bare);
-    return inIncludeDirectory.Exists() ? inIncludeDirectory.PathName() : cow_String();
-}
-
 bool isEmptyDataLine(inp_DataArray const& data, int row) {
     int const columns = data.Cols(row);
     return columns == 0 || (columns == 1 && data.IsNone(row, 0));
@@ -134,9 +117,16 @@ inp_KeywordExpansionVisitor::~inp_KeywordExpansionVisitor() = default;
 
 // -- walking --------------------------------------------------------------------------
 
+// When the handling fails, the suboptions are not walked: they go with the
+// blanked keyword.
 void inp_KeywordExpansionVisitor::Visit(inp_Keyword& keyword) {
     try {
-        inp_Visitor::Visit(keyword);
+        if (Route const* route = RouteOf(keyword.Keyword())) {
+            (this->*route->handler)(keyword, route->row);
+            VisitSuboptions(keyword);
+        } else {
+            inp_Visitor::Visit(keyword);
+        }
     } catch (inp_PrimException const& failure) {
         error(keyword, failure.UserReport());
         keyword = inp_Keyword();
@@ -145,11 +135,6 @@ void inp_KeywordExpansionVisitor::Visit(inp_Keyword& keyword) {
 
 void inp_KeywordExpansionVisitor::DefaultAction(inp_Keyword& keyword) {
     ExpandParameters(keyword, kNoWords);
-}
-
-void inp_KeywordExpansionVisitor::ExpandKeyword(inp_Keyword& keyword) {
-    Route const& route = RouteOf(keyword.Keyword());
-    (this->*route.handler)(keyword, route.row);
 }
 
 // -- the routes that are not a keyword's own ----------------------------------------------
@@ -349,13 +334,13 @@ void inp_KeywordExpansionVisitor::ReadInputParameter(cow_String const& path,
         error(keyword, atr("Input file is missing"));
         return;
     }
-    cow_String const found = locateDataFile(path, m_includePath);
+    cow_String const found = inp_LocateDeckFile(path, m_includePath);
     if (found.IsEmpty()) {
         error(keyword, atr("Input file \"%s\" does not exist.", path));
         // "None" is what a parameter without a usable value reads as.
         if (path != "None")
             m_missingIncludedFiles.AppendUnlessMember(
-                ZELBasUtlFilePath(withoutQuotes(path)).FileName());
+                ZELBasUtlFilePath(inp_WithoutQuotes(path)).FileName());
         return;
     }
     ZELBasUtlFilePath const file(found);

@@ -11,10 +11,16 @@
 // It never adds a keyword and never reorders the list. One object per run:
 // configure it with the setters, walk the list, read the results back.
 //
-// Dispatch: every handler of the base class except those of *END ASSEMBLY,
-// *END INSTANCE and *END STEP (which keep the base handlers) goes to
-// ExpandKeyword, which looks the keyword's key up once in a table built from
-// the schema and from the stage's own handlers (inp_KeywordExpansionDispatch.cpp).
+// Dispatch: Visit looks the keyword's key up once in a table built from the
+// schema and from the stage's own handlers (inp_KeywordExpansionDispatch.cpp),
+// calls what it finds, then walks the suboptions. The per-keyword handlers of
+// the base class (VisitNode, ...) are bypassed, so a subclass adapts this
+// stage through DefaultAction, not through them. With them goes the base's
+// following of scopes: the part, assembly and instance names stay empty here,
+// which a rule of *ELEMENT depends on, and *SUBSTRUCTURE PATH levels are not
+// counted. *STEP sets the step name itself, and *END ASSEMBLY, *END INSTANCE
+// and *END STEP go to the base handlers, which expand as DefaultAction does
+// and then clear their scope's name.
 
 #include <span>
 #include <unordered_set>
@@ -59,28 +65,15 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
 
     // -- walking ------------------------------------------------------------------
 
-    // The base walk, with any deck exception of the keyword's handling (or of
-    // its data conversion) turned into one error: the keyword is blanked and
-    // the walk goes on with the next keyword.
+    // The keyword's handling by its route, then its suboptions, with any deck
+    // exception of the handling (or of its data conversion) turned into one
+    // error: the keyword is blanked and the walk goes on with the next
+    // keyword. The keys without a route (the blanked keyword and the model
+    // root, whose suboptions are still walked; the end of file and any key
+    // outside the keyword table, which fail) take the base walk.
     void Visit(inp_Keyword& keyword) override;
     // A keyword without a handler of its own accepts no parameter at all.
     void DefaultAction(inp_Keyword& keyword) override;
-
-#define INP_EXPANSION_DECLARE_HANDLER(name) void Visit##name(inp_Keyword& keyword) override;
-#define INP_EXPANSION_SCOPED_LISTED_BELOW(name)
-    INP_VISITOR_SLOTS(INP_EXPANSION_DECLARE_HANDLER, INP_EXPANSION_SCOPED_LISTED_BELOW)
-    // The scoped handlers that expand their keyword. They deliberately do not
-    // follow the scope names of the base class: a rule of *ELEMENT depends on
-    // them staying empty in this stage. The end handlers of the assembly, the
-    // instance and the step are not overridden.
-    INP_EXPANSION_DECLARE_HANDLER(Assembly)
-    INP_EXPANSION_DECLARE_HANDLER(EndPart)
-    INP_EXPANSION_DECLARE_HANDLER(Instance)
-    INP_EXPANSION_DECLARE_HANDLER(Part)
-    INP_EXPANSION_DECLARE_HANDLER(Step)
-    INP_EXPANSION_DECLARE_HANDLER(SubstructurePath)
-#undef INP_EXPANSION_DECLARE_HANDLER
-#undef INP_EXPANSION_SCOPED_LISTED_BELOW
 
     // -- engine operations, for the handlers ---------------------------------------
     // Every message goes through inp_Utils::MessageInKeyword on its way to a list.
@@ -158,7 +151,7 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
         Handler handler;
     };
     // What a key leads to: the handler and the keyword's schema row (null
-    // for a key without one).
+    // for a keyword without one).
     struct Route {
         inp_SchemaRow const* row;
         Handler handler;
@@ -171,9 +164,8 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     };
 
     static std::span<OwnHandler const> OwnHandlers();
-    static Route const& RouteOf(int key);
-    // Where every overridden handler goes.
-    void ExpandKeyword(inp_Keyword& keyword);
+    // Null for a key without a route.
+    static Route const* RouteOf(int key);
 
     // -- the routes that are not a keyword's own ---------------------------------------
     // The generic handler: the row's words, then its enumerations in order.
@@ -191,6 +183,11 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     void HandleAssembly(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleInstance(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleEndPart(inp_Keyword& keyword, inp_SchemaRow const* row);
+    // The base handlers: the keyword as DefaultAction leaves it, then the
+    // scope closed.
+    void HandleEndAssembly(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleEndInstance(inp_Keyword& keyword, inp_SchemaRow const* row);
+    void HandleEndStep(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleStep(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleRestart(inp_Keyword& keyword, inp_SchemaRow const* row);
     void HandleImport(inp_Keyword& keyword, inp_SchemaRow const* row);

@@ -4,9 +4,8 @@
 
 namespace {
 
-// The largest key of the keyword table, with room to spare; the lookup is an
-// array indexed by key, so a keyword visit costs one load.
-constexpr int kKeyLimit = 12000;
+// The lookup is an array indexed by key, so a keyword visit costs one load.
+constexpr int kKeyLimit = inp_keywordKeyLimit;
 
 struct SchemaIndex {
     std::vector<inp_SchemaRow const*> rows;

@@ -40,7 +40,17 @@ struct inp_SchemaEnum {
     inp_EnumGuard guard = inp_EnumGuard::None;
 };
 
+// A row is written with its key alone; the keyword's name comes from the
+// keyword table (deck/inp_keywords.h), so that the two cannot disagree.
 struct inp_SchemaRow {
+    constexpr inp_SchemaRow(inp_KeywordEnm key, inp_SchemaKind kind, inp_WordTable parameters,
+                            std::span<inp_SchemaEnum const> enumerations)
+        : keyword(inp_KeywordTableName(key)),
+          key(key),
+          kind(kind),
+          parameters(parameters),
+          enumerations(enumerations) {}
+
     char const* keyword;  // the keyword table's name: lower case, no blanks
     inp_KeywordEnm key;
     inp_SchemaKind kind;

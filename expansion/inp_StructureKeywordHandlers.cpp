@@ -283,6 +283,18 @@ void inp_KeywordExpansionVisitor::HandleEndPart(inp_Keyword& keyword, inp_Schema
         error(keyword, atr("Misplaced keyword: No matching *Part keyword has been defined."));
 }
 
+void inp_KeywordExpansionVisitor::HandleEndAssembly(inp_Keyword& keyword, inp_SchemaRow const*) {
+    inp_Visitor::VisitEndAssembly(keyword);
+}
+
+void inp_KeywordExpansionVisitor::HandleEndInstance(inp_Keyword& keyword, inp_SchemaRow const*) {
+    inp_Visitor::VisitEndInstance(keyword);
+}
+
+void inp_KeywordExpansionVisitor::HandleEndStep(inp_Keyword& keyword, inp_SchemaRow const*) {
+    inp_Visitor::VisitEndStep(keyword);
+}
+
 // -- steps and restarts -----------------------------------------------------------------------
 
 // Generated names count from the step counter, which a restart may have set.

@@ -83,7 +83,6 @@ private:
     // *INCLUDE: the keywords of the included file, read by a nested parser.
     cow_List<inp_Keyword> IncludeFile(inp_Keyword const& include, bool strict);
     cow_String includeFileName(inp_Keyword const& include, cow_String& password) const;
-    cow_String locateIncludeFile(cow_String const& name) const;
     void mergeIncludeLists(inp_Parser const& nested);
     void takeLeadingLinesOfInclude(inp_Parser const& nested, cow_String const& password);
     void takeLinesBehindInclude(cow_List<inp_Keyword> const& nestedKeywords);

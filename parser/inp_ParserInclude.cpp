@@ -6,6 +6,7 @@
 
 #include <string_view>
 
+#include "deck/inp_DeckFileLookup.h"
 #include "deck/inp_Exceptions.h"
 #include "parser/inp_Parser.h"
 #include "support/ZELBasUtlFilePath.h"
@@ -19,14 +20,6 @@ namespace {
 // recognised here.
 bool abbreviates(cow_String const& name, std::string_view word) {
     return !name.IsEmpty() && static_cast<size_t>(name.Length()) <= word.size() && word.starts_with(name.View());
-}
-
-// A quoted file name is looked up without its quotes, so that names with
-// blanks can be written; messages keep the name as the deck has it.
-cow_String withoutQuotes(cow_String const& name) {
-    if (name.Length() >= 2 && name[0] == '"' && name[name.Length() - 1] == '"')
-        return name.Substr(1, name.Length() - 2);
-    return name;
 }
 
 }  // namespace
@@ -46,19 +39,6 @@ cow_String inp_Parser::includeFileName(inp_Keyword const& include, cow_String& p
     return fileName;
 }
 
-// The name as it stands (relative to the working directory, or absolute),
-// then the name in the include directory. An empty result: not found.
-cow_String inp_Parser::locateIncludeFile(cow_String const& name) const {
-    cow_String bare = withoutQuotes(name);
-    ZELBasUtlFilePath asWritten(bare);
-    if (asWritten.Exists()) return asWritten.PathName();
-    if (!m_includePath.IsEmpty()) {
-        ZELBasUtlFilePath inIncludeDirectory(m_includePath, bare);
-        if (inIncludeDirectory.Exists()) return inIncludeDirectory.PathName();
-    }
-    return cow_String();
-}
-
 cow_List<inp_Keyword> inp_Parser::IncludeFile(inp_Keyword const& include, bool strict) {
     cow_String password;
     cow_String name = includeFileName(include, password);
@@ -66,14 +46,14 @@ cow_List<inp_Keyword> inp_Parser::IncludeFile(inp_Keyword const& include, bool s
     // A bare <name> never gets here: it fits no value pattern, so a strict
     // parse rejects it as an invalid value and a lenient one reads it as
     // "None". Written in quotes it arrives, and is recognised inside them.
-    cow_String unquoted = withoutQuotes(name);
+    cow_String unquoted = inp_WithoutQuotes(name);
     if (unquoted.StartsWith("<") && unquoted.EndsWith(">"))
         throw inp_ParameterizedIncludeFileException(m_lineNumber, m_fileName, name);
 
-    cow_String found = locateIncludeFile(name);
+    cow_String found = inp_LocateDeckFile(name, m_includePath);
     if (found.IsEmpty()) {
         // "None" is what a value of no type reads as in a lenient parse.
-        if (name != "None") m_missingIncludeFiles.AppendUnlessMember(ZELBasUtlFilePath(withoutQuotes(name)).FileName());
+        if (name != "None") m_missingIncludeFiles.AppendUnlessMember(ZELBasUtlFilePath(unquoted).FileName());
         throw inp_MissingIncludeFileException(m_lineNumber, m_fileName, name);
     }
     ZELBasUtlFilePath path(found);

@@ -71,6 +71,20 @@ TEST(KeywordTableContent, AllKeywordsAreTheNumberedTableSortedAndNamed) {
     for (int k : all) EXPECT_EQ(table().Enum(table().Name(static_cast<inp_KeywordEnm>(k))), k);
 }
 
+// The count, the key limit and the names by key are derived from the
+// keyword list at compile time; the table is built from it at run time.
+TEST(KeywordTableContent, TheConstantsDerivedFromTheKeywordListAgreeWithTheTable) {
+    cow_List<int> all = table().AllKeywords();
+    EXPECT_EQ(inp_keywordCount, all.Length());
+    EXPECT_EQ(inp_keywordKeyLimit, all.Last() + 1);
+    for (int k : all) {
+        char const* name = inp_KeywordTableName(static_cast<inp_KeywordEnm>(k));
+        ASSERT_NE(name, nullptr) << k;
+        EXPECT_EQ(table().Name(static_cast<inp_KeywordEnm>(k)), name);
+    }
+    EXPECT_EQ(inp_KeywordTableName(static_cast<inp_KeywordEnm>(19)), nullptr);
+}
+
 TEST(KeywordTableContent, SuboptionsKeepTheOrderOfTheirRow) {
     cow_List<int> const& amplitude = table().Suboptions(inp_kw_Amplitude);
     ASSERT_EQ(amplitude.Length(), 1);

@@ -8,6 +8,7 @@
 
 #include "deck/inp_Exceptions.h"
 #include "expansion/inp_Schema.h"
+#include "support/ZELBasException.h"
 
 namespace {
 
@@ -367,4 +368,81 @@ TEST(SchemaDrivenExpansion, EveryLogicKeywordHasAHandlerOfItsOwn) {
             !inp_KeywordExpansionVisitor::HasHandlerOfItsOwn(row->key))
             missing += std::string(row->keyword) + " ";
     EXPECT_EQ(missing, "");
+}
+
+// Visit routes every keyword itself, past the handlers of the base class.
+TEST(ExpansionDispatch, SuboptionsComeAfterTheirKeywordAndKeywordsWithoutRouteAreWalkedThrough) {
+    inp_KeywordExpansionVisitor visitor;
+    inp_Keyword heading = keywordOf(inp_kw_Heading, {{"x", "1"}});
+    heading.GetSuboptions().Append(keywordOf(inp_kw_Wind, {{"speed", "3"}}));
+    inp_Keyword root = keywordOf(inp_kw_Model, {{"x", "1"}});
+    root.GetSuboptions().Append(keywordOf(inp_kw_Elset, {{"el", "a"}}));
+    inp_Keyword blanked = keywordOf(inp_kw_UndefinedKeyword);
+    blanked.GetSuboptions().Append(keywordOf(inp_kw_Nset, {{"nsetxyz", "b"}}));
+    cow_List<inp_Keyword> keywords{heading, root, blanked};
+    visitor.VisitList(keywords);
+    std::string const tail = ". The parameter may be misspelled, obsolete, or invalid.";
+    EXPECT_EQ(texts(visitor.GetErrorList()),
+              (std::vector<std::string>{at("HEADING") + "Unknown parameter: x" + tail,
+                                        at("WIND") + "Unknown parameter: speed" + tail}));
+    EXPECT_EQ(valueOf(keywords[1], "x"), "1");
+    EXPECT_EQ(valueOf(keywords[1].Suboptions()[0], "elset"), "A");
+    EXPECT_EQ(valueOf(keywords[2].Suboptions()[0], "nset"), "B");
+}
+
+TEST(ExpansionDispatch, ModalPrintExpandsAsPrint) {
+    inp_KeywordExpansionVisitor visitor;
+    cow_List<inp_Keyword> keywords{keywordOf(inp_kw_Print, {{"allk", "y"}, {"sol", "n"}}),
+                                   keywordOf(inp_kw_ModalPrint, {{"allk", "y"}, {"sol", "n"}})};
+    visitor.VisitList(keywords);
+    for (inp_Keyword const& keyword : keywords) {
+        EXPECT_EQ(iterationOrder(keyword), (std::vector<std::string>{"allke", "solve"}));
+        EXPECT_EQ(valueOf(keyword, "allke"), "YES");
+        EXPECT_EQ(valueOf(keyword, "solve"), "NO");
+    }
+    EXPECT_TRUE(visitor.GetErrorList().IsEmpty());
+}
+
+// Only the step name is followed (a rule of *ELEMENT needs the part and
+// instance names empty); the end keywords still close their scopes.
+TEST(ExpansionDispatch, OnlyTheStepScopeIsFollowedAndTheEndKeywordsCloseIt) {
+    inp_KeywordExpansionVisitor visitor;
+    inp_Keyword part = keywordOf(inp_kw_Part, {{"name", "P"}});
+    inp_Keyword assembly = keywordOf(inp_kw_Assembly, {{"name", "A"}});
+    inp_Keyword instance = keywordOf(inp_kw_Instance, {{"name", "I"}, {"part", "P"}});
+    inp_Keyword path = keywordOf(inp_kw_SubstructurePath, {{"enterelement", "1"}});
+    for (inp_Keyword* keyword : {&part, &assembly, &instance, &path}) visitor.Visit(*keyword);
+    EXPECT_TRUE(visitor.PartName().IsEmpty() && visitor.AssemblyName().IsEmpty() &&
+                visitor.InstanceName().IsEmpty());
+    EXPECT_EQ(visitor.SubstructurePathDepth(), 0);
+
+    inp_Keyword step = keywordOf(inp_kw_Step, {{"name", "Load 1"}});
+    visitor.Visit(step);
+    EXPECT_EQ(visitor.StepName(), "Load1");
+    inp_Keyword endStep = keywordOf(inp_kw_EndStep);
+    visitor.Visit(endStep);
+    EXPECT_TRUE(visitor.StepName().IsEmpty());
+    for (inp_KeywordEnm key : {inp_kw_EndInstance, inp_kw_EndAssembly}) {
+        inp_Keyword end = keywordOf(key, {{"x", nullptr}});
+        visitor.Visit(end);
+    }
+    std::string const tail = ". The parameter may be misspelled, obsolete, or invalid.";
+    EXPECT_EQ(texts(visitor.GetErrorList()),
+              (std::vector<std::string>{
+                  at("SUBSTRUCTUREPATH") +
+                      "The following option is currently not supported in a model defined in "
+                      "terms of an assembly of part instances: *SUBSTRUCTURE PATH",
+                  at("ENDINSTANCE") + "Unknown parameter: x" + tail,
+                  at("ENDASSEMBLY") + "Unknown parameter: x" + tail}));
+}
+
+TEST(ExpansionDispatch, TheEndOfFileAndKeysOutsideTheTableFailTheBaseAssertion) {
+    for (int key : {99999, 19, -4, int(inp_kw_Eof)}) {
+        inp_KeywordExpansionVisitor visitor;
+        inp_Keyword keyword = keywordOf(static_cast<inp_KeywordEnm>(key));
+        testing::internal::CaptureStderr();
+        EXPECT_THROW(visitor.Visit(keyword), ZELBasAssertException) << key;
+        EXPECT_EQ(testing::internal::GetCapturedStderr(),
+                  "Unknown keyword key " + std::to_string(key) + "\n");
+    }
 }
