@@ -7,7 +7,6 @@
 
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_RawDataArrayImpl.h"
-#include "mesh/inp_MapInt2Element.h"
 #include "support/ZELBasAssert.h"
 
 namespace {
@@ -132,25 +131,18 @@ inp_ElementDataArrayImpl::inp_ElementDataArrayImpl(inp_DataArray const& raw)
     }
 }
 
-// The map's table takes negative labels as keys of their own, so a label of
-// the list is looked up as it stands and written as it stands.
-inp_ElementDataArrayImpl::inp_ElementDataArrayImpl(cow_List<int> const& labels,
-                                                   inp_MapInt2Element const& elements)
+inp_ElementDataArrayImpl::inp_ElementDataArrayImpl(std::span<Connectivity const> elements)
     : inp_ElementDataArrayImpl() {
     int rowCount = 0;
     size_t count = 0;
-    for (int label : labels) {
-        if (inp_Element const* element = elements.GetEltPtr(label)) {
-            rowCount += rowsForNodes(element->numNodesPerElement());
-            count += integersForNodes(element->numNodesPerElement());
-        }
+    for (Connectivity const& element : elements) {
+        rowCount += rowsForNodes(element.count);
+        count += integersForNodes(element.count);
     }
     allocate(rowCount, count);
     Writer writer(*this);
-    for (int label : labels) {
-        if (inp_Element const* element = elements.GetEltPtr(label))
-            writer.Element(label, element->nodes(), element->numNodesPerElement());
-    }
+    for (Connectivity const& element : elements)
+        writer.Element(element.label, element.nodes, element.count);
 }
 
 inp_ElementDataArrayImpl::inp_ElementDataArrayImpl(cow_Map<int, cow_List<int>> const& elements)

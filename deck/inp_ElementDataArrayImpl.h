@@ -12,12 +12,12 @@
 // The row lengths are fixed once built: Set may change an integer in place,
 // and generic text lines can never be appended.
 
+#include <span>
+
 #include "deck/inp_DataArray.h"
 #include "deck/inp_DataArrayImpl.h"
 #include "support/cow_List.h"
 #include "support/cow_Map.h"
-
-class inp_MapInt2Element;
 
 class inp_ElementDataArrayImpl : public inp_DataArrayImpl {
   public:
@@ -26,14 +26,21 @@ class inp_ElementDataArrayImpl : public inp_DataArrayImpl {
     // Nodes that each further row holds.
     static constexpr int kNodesInFurtherRow = 16;
 
+    // One element as the constructor from a span takes it: its label and
+    // `count` nodes at `nodes` (which may be null when there are none).
+    struct Connectivity {
+        int label;
+        int const* nodes;
+        int count;
+    };
+
     inp_ElementDataArrayImpl() = default;
     // One integer per item, read as atoi reads it, with the row and column
     // counts of `raw`. Nothing is checked: the element visitor has done that.
     explicit inp_ElementDataArrayImpl(inp_DataArray const& raw);
-    // The deck form of the listed elements, in the order of `labels`. A
-    // negative label names the map's second table under its absolute value;
-    // a label that the map lacks is skipped.
-    inp_ElementDataArrayImpl(cow_List<int> const& labels, inp_MapInt2Element const& elements);
+    // The deck form of the given elements, in their order. Holders of
+    // elements elsewhere build through it (mesh/inp_ElementDataFromMap.h).
+    explicit inp_ElementDataArrayImpl(std::span<Connectivity const> elements);
     // The deck form of every element of the map, ascending by label.
     explicit inp_ElementDataArrayImpl(cow_Map<int, cow_List<int>> const& elements);
     inp_ElementDataArrayImpl(inp_ElementDataArrayImpl const& other);

@@ -1,7 +1,6 @@
 #include "deck/inp_Keyword.h"
 
 #include "deck/inp_KeywordTable.h"
-#include "pipeline/inp_Visitor.h"
 #include "support/eli_eostream.h"
 
 namespace {
@@ -149,8 +148,4 @@ cow_String inp_Keyword::Print(bool withSuboptions) const {
     cow_String out;
     printDebug(out, withSuboptions);
     return out;
-}
-
-void inp_Keyword::Accept(inp_Visitor& visitor) {
-    visitor.Visit(*this);
 }

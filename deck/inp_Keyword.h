@@ -65,7 +65,7 @@ class inp_Keyword {
     // Whether a direct child has that enumerator; no recursion.
     bool hasSuboption(inp_KeywordEnm keyword) const;
     // Hands this keyword to the visitor's Visit, which handles it and walks
-    // its suboptions.
+    // its suboptions. Defined with the visitor base, in pipeline/inp_Visitor.cpp.
     void Accept(inp_Visitor& visitor);
 
     cow_String const& FileName() const { return m_fileName; }

@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "../deck/FailureText.h"
-#include "../parser/TempDeckDirectory.h"
 #include "binding/inp_CAPI_Item.h"
 #include "deck/inp_Item.h"
 #include "parser/inp_DeckEncryptor.h"
+#include "tests/common/FailureText.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 #include <random>
 #include <string>
 
-#include "FailureText.h"
 #include "deck/inp_Exceptions.h"
 #include "support/ZELBasException.h"
+#include "tests/common/FailureText.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <random>
 #include <string>
 
-#include "FailureText.h"
 #include "support/ZELBasException.h"
+#include "tests/common/FailureText.h"
 
 namespace {
 

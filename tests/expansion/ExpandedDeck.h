@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "../parser/TempDeckDirectory.h"
 #include "expansion/inp_KeywordExpansionVisitor.h"
 #include "parser/inp_Parser.h"
+#include "tests/common/TempDeckDirectory.h"
 
 using Messages = std::vector<std::string>;
 

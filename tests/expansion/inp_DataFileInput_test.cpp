@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "../parser/TempDeckDirectory.h"
 #include "expansion/inp_KeywordExpansionVisitor.h"
 #include "parser/inp_Parser.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 

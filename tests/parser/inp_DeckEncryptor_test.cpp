@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "TempDeckDirectory.h"
 #include "support/uti_Rotor.h"
 #include "support/utl_Base64.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 

@@ -6,11 +6,11 @@
 #include <stdexcept>
 #include <string>
 
-#include "TempDeckDirectory.h"
 #include "parser/inp_Parser.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 

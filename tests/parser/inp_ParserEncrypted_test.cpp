@@ -3,9 +3,9 @@
 #include <fstream>
 #include <string>
 
-#include "TempDeckDirectory.h"
 #include "parser/inp_DeckEncryptor.h"
 #include "parser/inp_Parser.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 

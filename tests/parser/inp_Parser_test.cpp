@@ -4,11 +4,11 @@
 
 #include <string>
 
-#include "TempDeckDirectory.h"
 #include "support/ZELBasException.h"
 #include "support/aio_Stream.h"
 #include "support/pnt_PrettyPrint.h"
 #include "support/typ_DebugFlags.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 

@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
-#include "../parser/TempDeckDirectory.h"
 #include "expansion/inp_Schema.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 

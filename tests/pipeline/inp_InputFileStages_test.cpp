@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "../parser/TempDeckDirectory.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/aio_Stream.h"
 #include "support/pnt_PrettyPrint.h"
@@ -10,6 +9,7 @@
 #include "support/typ_DebugFlags.h"
 #include "support/utl_CommandLine.h"
 #include "support/wip_WIP.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 
