@@ -16,7 +16,7 @@ build: $(BUILD)/CMakeCache.txt
 
 # Builds everything, then checks the bundled example deck with the fedeck program.
 run: build
-	$(BUILD)/fedeck check --include-dir examples examples/beam.inp
+	$(BUILD)/fedeck check examples/beam.inp
 
 test: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)

@@ -1,4 +1,5 @@
-// The flat entry: parses, expands and optionally organizes a deck, then walks
+// The flat entry: parses, expands and optionally organizes a deck (the
+// library's road, read leniently), then walks
 // the result and hands it out through the caller's four callbacks as plain
 // arrays and strings. Every block handed out is allocated just before its
 // callback and freed as soon as the callback returns (or an exception passes
@@ -10,19 +11,20 @@
 #include <cstring>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "binding/inp_CAPI.h"
 #include "binding/inp_CAPI_Item.h"
 #include "deck/inp_Keyword.h"
-#include "expansion/inp_KeywordExpansionVisitor.h"
-#include "parser/inp_Parser.h"
-#include "pipeline/inp_OrganizerVisitor.h"
+#include "pipeline/inp_InputFile.h"
 #include "support/ZELBasAssert.h"
 #include "support/aio_Stream.h"
 #include "support/cow_List.h"
 #include "support/cow_Map.h"
 #include "support/cow_String.h"
 #include "support/mem_Allocation.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
 
 namespace {
 
@@ -447,10 +449,6 @@ struct inp_CAPI_InputFile {
     cow_List<inp_Keyword> keywords;
 };
 
-void printLines(cow_List<atr_String> const& messages) {
-    for (atr_String const& message : messages) aio_cerr() << message << '\n';
-}
-
 char const* orNull(char const* text) {
     return text ? text : "(null)";
 }
@@ -470,37 +468,52 @@ void traceCall(char const* fileName, char const* directoryName, bool organize, i
     aio_cerr().print(sizes);
 }
 
-// Lenient: unknown parameters and values pass, a missing include is listed.
-// Only the fatal errors are shown.
-void parse(inp_CAPI_InputFile& file, bool bulk) {
-    inp_Parser parser(file.fileName, file.directoryName, cow_List<cow_String>(), cow_String(),
-                      false, bulk, true);
-    file.keywords = parser.Parse(false);
-    printLines(parser.GetFatalErrors());
-    file.includes = parser.GetIncludedFiles();
-    file.missingIncludes = parser.GetMissingIncludeFiles();
-}
+// Prints, one per line, the fatal diagnostics that a stage added to the sink
+// from position `first` on. The fatal errors of the parse are always shown,
+// those of the later stages only when `verbose`; errors and warnings never.
+class FatalErrorPrinter {
+  public:
+    FatalErrorPrinter(wip_WIP const& sink, int verbose)
+        : m_sink(sink), m_verbose(verbose), m_first(sink.Diagnostics().size()) {}
 
-// Expansion without bulk conversion, so that data the compact forms refuse
-// stay as they were read. Its data files join the include lists. Returns
-// whether the deck is built of parts and an assembly.
-bool expand(inp_CAPI_InputFile& file, int verbose) {
-    inp_KeywordExpansionVisitor expansion;
-    expansion.SetIncludePath(file.directoryName);
-    expansion.SetBulkConversion(false);
-    expansion.VisitList(file.keywords);
-    if (verbose >= 1) printLines(expansion.GetFatalErrorList());
-    file.missingIncludes.Concatenate(expansion.GetMissingIncludedFiles());
-    for (cow_String const& dataFile : expansion.GetIncludedFiles())
-        file.includes.AppendUnlessMember(dataFile);
-    return expansion.FeatureEnhanced();
-}
+    void AfterStage(inp_Stage stage) {
+        std::vector<wip_Diagnostic> const& diagnostics = m_sink.Diagnostics();
+        bool const shown = stage == inp_Stage::Parse || m_verbose >= 1;
+        for (size_t i = m_first; shown && i < diagnostics.size(); ++i)
+            if (diagnostics[i].severity == wip_Severity::Fatal)
+                aio_cerr() << diagnostics[i].text << '\n';
+        m_first = diagnostics.size();
+    }
 
-void organize(inp_CAPI_InputFile& file, bool enhanced, int verbose) {
-    inp_OrganizerVisitor organizer(enhanced);
-    organizer.VisitList(file.keywords);
-    if (verbose >= 1) printLines(organizer.GetFatalErrorList());
-    file.keywords = organizer.Keywords();
+  private:
+    wip_WIP const& m_sink;
+    int m_verbose;
+    size_t m_first;
+};
+
+// The library's road with a lenient parse and data left as read, through
+// expansion and, if asked, organization, whatever the deck's errors. The
+// data files that expansion read join the include lists.
+void readDeck(inp_CAPI_InputFile& file, bool organize, int verbose, bool bulk) {
+    wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
+    size_t const sinkBefore = sink.Diagnostics().size();
+    FatalErrorPrinter printer(sink, verbose);
+    inp_InputFile deck(inp_InputFileOptions::ForScripting(file.directoryName, bulk));
+    try {
+        deck.Run(file.fileName, organize ? inp_Stage::Organize : inp_Stage::Expand,
+                 inp_InputFile::RunRule::RunThrough,
+                 [&](inp_Stage stage) { printer.AfterStage(stage); });
+    } catch (...) {
+        sink.ForgetFrom(sinkBefore);
+        throw;
+    }
+    // What the caller needs went to standard error: the sink is left as it was.
+    sink.ForgetFrom(sinkBefore);
+    file.includes = deck.GetIncludedFiles();
+    file.missingIncludes = deck.GetMissingIncludeFiles();
+    file.missingIncludes.Concatenate(deck.GetMissingDataFiles());
+    for (cow_String const& dataFile : deck.GetDataFiles()) file.includes.AppendUnlessMember(dataFile);
+    file.keywords = deck.Keywords();
 }
 
 void send(inp_CAPI_InputFile const& file) {
@@ -539,9 +552,7 @@ extern "C" int inp_CAPI_Parse(char const* fileName, char const* directoryName,
     inp_CAPI_InputFile file;
     file.fileName = fileName ? fileName : "";
     file.directoryName = directoryName ? directoryName : "";
-    parse(file, bulk);
-    bool const enhanced = expand(file, verbose);
-    if (organizeKeywords) organize(file, enhanced, verbose);
+    readDeck(file, organizeKeywords, verbose, bulk);
     send(file);
     if (printKwds) printKeywords(file.keywords);
     return 0;

@@ -47,11 +47,19 @@ class inp_MissingEndQuoteException : public inp_ParameterException {
     INP_EXCEPTION_COPY_AND_PROPAGATE(inp_MissingEndQuoteException)
 };
 
-// A failure tied to a keyword line of a file.
+// A failure tied to a keyword line of a file. The message carries the file,
+// the line and, where the failure names one, the keyword as its location.
 class inp_KeywordException : public inp_PrimException {
   public:
     inp_KeywordException(int line, cow_String const& fileName, atr_String const& message)
-        : inp_PrimException(message), m_lineNumber(line), m_fileName(fileName) {}
+        : inp_KeywordException(line, fileName, message, cow_String()) {}
+    // `keyword` as the deck wrote it; the location holds it in upper case.
+    inp_KeywordException(int line, cow_String const& fileName, atr_String const& message,
+                         cow_String const& keyword)
+        : inp_PrimException(atr_String(message).SetLocation(
+              {fileName, line, cow_String(keyword).ToUpper()})),
+          m_lineNumber(line),
+          m_fileName(fileName) {}
     int LineNumber() const { return m_lineNumber; }
     cow_String const& FileName() const { return m_fileName; }
     INP_EXCEPTION_COPY_AND_PROPAGATE(inp_KeywordException)

@@ -6,9 +6,9 @@
 #include <new>
 
 #include "deck/inp_Exceptions.h"
+#include "deck/inp_KeywordMessage.h"
 #include "deck/inp_KeywordTable.h"
 #include "deck/inp_PatternMatchers.h"
-#include "mesh/inp_Utils.h"
 #include "support/ZELBasAssert.h"
 #include "support/ZELBasUtlFilePath.h"
 #include "support/omi_Timer.h"
@@ -115,7 +115,8 @@ void inp_Parser::discardRestOfLine() {
     clear();
     for (int c = get(); c != '\n' && c != kEof; c = get()) {
     }
-    m_warnings.Append(atr("Line #%d has been truncated.", m_lineNumber));
+    m_warnings.Append(atr("Line #%d has been truncated.", m_lineNumber)
+                          .SetLocation({m_fileName, m_lineNumber, cow_String()}));
 }
 
 void inp_Parser::Buffer(char const* line) {
@@ -287,7 +288,7 @@ void inp_Parser::ParseParameters(inp_Keyword& keyword, cow_String const& text, b
                                   : atr("Repeated parameter: %s.  New definition of \"%s\" overrides previous "
                                         "setting.",
                                         name, shown);
-            m_warnings.Append(inp_Utils::MessageInKeyword(keyword, text));
+            m_warnings.Append(inp_MessageInKeyword(keyword, text));
         }
 
         if (value.IsEmpty()) {

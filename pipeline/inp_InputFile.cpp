@@ -6,11 +6,13 @@
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
 
+inp_InputFile::inp_InputFile() : m_options(inp_InputFileOptions::FromHostCommandLine()) {}
+
 void inp_InputFile::Parse(cow_String fileName) {
     m_fileName = fileName;
-    inp_Parser parser(fileName, m_includePath, cow_List<cow_String>(), cow_String(), /*strictDecryption=*/true,
-                      /*bulk=*/true, /*forScripting=*/false);
-    m_keywords = parser.Parse(/*strict=*/true);
+    inp_Parser parser(fileName, m_options.includePath, cow_List<cow_String>(), cow_String(),
+                      /*strictDecryption=*/m_options.strictParse, m_options.bulk, m_options.forScripting);
+    m_keywords = parser.Parse(/*strict=*/m_options.strictParse);
     m_includedFiles = parser.GetIncludedFiles();
     m_missingIncludeFiles = parser.GetMissingIncludeFiles();
 

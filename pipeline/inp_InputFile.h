@@ -4,9 +4,16 @@
 // include path, calls Parse, and holds a flat keyword list; later stages
 // turn that list into a tree and fill the model maps.
 
+#include <functional>
+#include <span>
+#include <string_view>
+#include <utility>
+
 #include "deck/inp_Keyword.h"
 #include "mesh/inp_CoordMap.h"
 #include "mesh/inp_MapInt2Element.h"
+#include "pipeline/inp_InputFileOptions.h"
+#include "pipeline/inp_Stage.h"
 #include "support/cow_List.h"
 #include "support/cow_String.h"
 #include "support/gsl_Matrix.h"
@@ -20,7 +27,37 @@ class eli_eostream;
 
 class inp_InputFile {
 public:
-    inp_InputFile() = default;
+    // Options of a new job of the host (inp_InputFileOptions::FromHostCommandLine).
+    inp_InputFile();
+    explicit inp_InputFile(inp_InputFileOptions options) : m_options(std::move(options)) {}
+
+    // -- the road ------------------------------------------------------------
+    // The order of the stages is owned here; callers name where to stop.
+
+    // Every stage of the road of a new job, in order.
+    static std::span<inp_StageInfo const> Stages();
+    // The stage of this name, or null.
+    static inp_StageInfo const* FindStage(std::string_view name);
+
+    enum class RunRule {
+        StopAfterErrors,  // a stage that adds errors to the sink is the last to run
+        RunThrough,       // every stage up to the last asked for runs, errors or not
+    };
+    // Called after each stage that ran, with that stage.
+    using StageObserver = std::function<void(inp_Stage)>;
+
+    // Reads the deck `fileName` and runs the stages from the first through
+    // `last`, by `rule`; returns the last stage that ran. Diagnostics go to
+    // this thread's sink. Only a deck file that cannot be opened throws (out
+    // of the parse stage, as Parse does).
+    inp_Stage Run(cow_String const& fileName, inp_Stage last,
+                  RunRule rule = RunRule::StopAfterErrors, StageObserver const& afterStage = {});
+
+    inp_InputFileOptions const& Options() const { return m_options; }
+    // Set before the stages run.
+    void SetOptions(inp_InputFileOptions const& options) { m_options = options; }
+
+    // -- the stages ----------------------------------------------------------
 
     // Reads the deck into the keyword list and hands the parser's diagnostics
     // to this thread's message sink: fatal errors at level 0, errors at level
@@ -52,13 +89,17 @@ public:
     // Include names read while parsing, in order, and those not found.
     cow_List<cow_String> const& GetIncludedFiles() const { return m_includedFiles; }
     cow_List<cow_String> const& GetMissingIncludeFiles() const { return m_missingIncludeFiles; }
+    // Data files (`INPUT=` of data keywords) that expansion read, and the
+    // file names of those it did not find, each once.
+    cow_List<cow_String> const& GetDataFiles() const { return m_dataFiles; }
+    cow_List<cow_String> const& GetMissingDataFiles() const { return m_missingDataFiles; }
 
     bool IsRestartJob() const { return m_restartJob; }
     bool InOdbConverter() const { return m_inOdbConverter; }
     bool PartModelAllowed() const { return m_partModelAllowed; }
     bool IsPartsAndAssembly() const { return m_partsAndAssembly; }
     bool IsParameterized() const { return m_parameterized; }
-    cow_String const& GetIncludePath() const { return m_includePath; }
+    cow_String const& GetIncludePath() const { return m_options.includePath; }
     bool IsFakePartModel() const { return m_fakePartModel; }
     bool IsPlainRestart() const { return m_plainRestart; }
     bool IsImportJob() const { return m_importJob; }
@@ -95,7 +136,7 @@ public:
     inpM_SurfaceMap const& ImportedSurfaces() const { return m_importedSurfaces; }
 
     // Settings of the caller, made before the stages run.
-    void SetIncludePath(cow_String const& directory) { m_includePath = directory; }
+    void SetIncludePath(cow_String const& directory) { m_options.includePath = directory; }
     void SetInOdbConverter(bool inConverter) { m_inOdbConverter = inConverter; }
     void SetUseImportedData(bool useImported) { m_useImportedData = useImported; }
     void SetNumberRestartSteps(int steps) { m_numberRestartSteps = steps; }
@@ -106,6 +147,11 @@ public:
     void SetImportedSurfaces(inpM_SurfaceMap const& surfaces) { m_importedSurfaces = surfaces; }
 
 private:
+    friend struct inp_RoadTable;  // the table of stages, in inp_InputFileRoad.cpp
+
+    // The parse stage of the road: Parse of the deck that Run was given.
+    void parseStage() { Parse(m_fileName); }
+
     cow_List<inp_Keyword> m_assemblyElementKeywords;
     cow_List<inp_Keyword> m_keywords;
     bool m_partsAndAssembly = false;
@@ -143,8 +189,10 @@ private:
     inpM_SetMap m_importedElsets;
     inpM_SurfaceMap m_importedSurfaces;
     cow_List<cow_String> m_importedInstanceNames;
-    cow_String m_includePath;
+    inp_InputFileOptions m_options;  // the include path among them
     inpM_InstanceMap<cow_String> m_instancePartNames;
     cow_List<cow_String> m_includedFiles;
     cow_List<cow_String> m_missingIncludeFiles;
+    cow_List<cow_String> m_dataFiles;
+    cow_List<cow_String> m_missingDataFiles;
 };

@@ -8,7 +8,6 @@
 #include "support/pnt_PrettyPrint.h"
 #include "support/thr_Singleton.h"
 #include "support/typ_DebugFlags.h"
-#include "support/utl_CommandLine.h"
 #include "support/wip_WIP.h"
 
 namespace {
@@ -25,14 +24,6 @@ void printStageTime(char const* label, omi_Timer& timer) {
     pnt_debugPrint().EndDebug();
 }
 
-// Results go to the results database unless the command line names another
-// format; the symmetric-model rules of the expansion depend on it.
-bool resultsFormatIsOdb() {
-    utl_CommandLine const& commandLine = utl_CommandLine::Instance();
-    cow_String const option("resultsFormat");
-    return !commandLine.IsMember(option) || commandLine.ConstGetValue(option) == cow_String("odb");
-}
-
 }  // namespace
 
 void inp_InputFile::ExpandKeywords() {
@@ -40,14 +31,17 @@ void inp_InputFile::ExpandKeywords() {
     timer.Start();
 
     inp_KeywordExpansionVisitor expansion;
-    expansion.SetIncludePath(m_includePath);
+    expansion.SetIncludePath(m_options.includePath);
     expansion.SetNumberRestartSteps(m_numberRestartSteps);
-    expansion.SetResultsFormatOdb(resultsFormatIsOdb());
+    expansion.SetResultsFormatOdb(m_options.resultsFormatOdb);
+    expansion.SetBulkConversion(m_options.bulkConversion);
     expansion.VisitListAndReport(m_keywords);
 
     m_partsAndAssembly = expansion.FeatureEnhanced();
     m_instancePartNames = expansion.ConstGetInstancePartNames();
     m_parameterized = expansion.IsParameterized();
+    m_dataFiles = expansion.GetIncludedFiles();
+    m_missingDataFiles = expansion.GetMissingIncludedFiles();
 
     bool const explicitRigidSurface = expansion.IsExplicitJob() && expansion.HasRigidSurfaceKeyword();
     if (explicitRigidSurface) {
@@ -66,7 +60,7 @@ void inp_InputFile::ExpandKeywords() {
             m_partModelAllowed = false;
     }
 
-    DiscardEmptyKeywords();
+    if (m_options.discardBlankedKeywords) DiscardEmptyKeywords();
     printStageTime("Expand Keywords - Elapsed time: ", timer);
 }
 
@@ -77,6 +71,6 @@ void inp_InputFile::Reorganize() {
     inp_OrganizerVisitor organizer(m_partsAndAssembly);
     organizer.VisitListAndReport(m_keywords);
     m_keywords = organizer.Keywords();
-    DiscardEmptyKeywords();
+    if (m_options.discardBlankedKeywords) DiscardEmptyKeywords();
     printStageTime("Reorganize - Elapsed time: ", timer);
 }

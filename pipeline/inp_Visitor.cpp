@@ -114,6 +114,13 @@ void inp_Visitor::VisitSuboptions(inp_Keyword& keyword) {
     for (int i = 0; i < count; ++i) suboptions.Get(i).Accept(*this);
 }
 
+// inp_Keyword::Accept is declared with the keyword but defined here: the deck
+// layer lies below the visitors and may not include this header, while
+// calling Visit needs the full visitor class.
+void inp_Keyword::Accept(inp_Visitor& visitor) {
+    visitor.Visit(*this);
+}
+
 // -- handlers -------------------------------------------------------------------
 
 #define INP_VISITOR_DEFAULT_HANDLER(name)                 \
@@ -216,14 +223,14 @@ atr_String inp_Visitor::Warnings() const {
 
 void inp_Visitor::AddDiagnostics(ZELBasVector<ZELBasPair<int, atr_String>>& diagnostics) {
     for (ZELBasPair<int, atr_String> const& diagnostic : diagnostics) {
-        switch (diagnostic.first) {
-            case 2:
+        switch (static_cast<wip_Severity>(diagnostic.first)) {
+            case wip_Severity::Error:
                 m_errors.Append(diagnostic.second);
                 break;
-            case 3:
+            case wip_Severity::Fatal:
                 m_fatalErrors.Append(diagnostic.second);
                 break;
-            default:  // 1, and any severity without a meaning of its own
+            default:  // warnings, and any number without a meaning of its own
                 m_warnings.Append(diagnostic.second);
         }
     }

@@ -104,9 +104,10 @@ class inp_Visitor : public mem_AllocationOperators {
     atr_String Errors() const;
     // Every warning, each followed by a line feed.
     atr_String Warnings() const;
-    // Sorts (severity, text) pairs made elsewhere into the lists, in order:
-    // 1 to the warnings, 2 to the errors, 3 to the fatal errors, any other
-    // severity to the warnings. The texts are taken as they are.
+    // Sorts (severity, text) pairs made elsewhere into the lists, in order,
+    // by the numbers of wip_Severity: 1 to the warnings, 2 to the errors, 3 to
+    // the fatal errors, any other number to the warnings. The texts are taken
+    // as they are, with their locations.
     void AddDiagnostics(ZELBasVector<ZELBasPair<int, atr_String>>& diagnostics);
 
   protected:

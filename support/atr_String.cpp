@@ -1,6 +1,7 @@
 #include "support/atr_String.h"
 
 #include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -18,6 +19,11 @@ bool isDigit(char c) {
 atr_String& atr_String::ReplaceNonTranslated(std::string_view placeholder,
                                              cow_String const& value) {
     Substitute(placeholder, value.View());
+    return *this;
+}
+
+atr_String& atr_String::SetLocation(atr_Location location) {
+    m_location = cow_CountedHld<atr_Location const>(new atr_Location(std::move(location)));
     return *this;
 }
 

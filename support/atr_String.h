@@ -2,6 +2,7 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "support/cow_COW.h"
 #include "support/cow_String.h"
 
 // Passed through message formatting to the catalogue; the system uses the
@@ -11,7 +12,20 @@ enum ZELBasStringMode : int { zel_DefaultStringMode = 0 };
 // The operations shared by cow_String and atr_String live in cow_String.
 using atr_StringBase = cow_String;
 
+// Where a message points: the deck file, the line in it and the keyword of
+// that line. Each part may be unknown. It travels with the message as data
+// beside the text, so that every form of output (text, JSON, an editor) can
+// use it without reading it out of the words.
+struct atr_Location {
+    cow_String file;     // as the parser opened it; empty when unknown
+    int line = 0;        // 1-based; 0 when unknown
+    cow_String keyword;  // the keyword's name in upper case, without the star; empty when none
+};
+
 // A string that carries a message: what passes through the diagnostic system.
+// A message may carry a location. The location is shared by the copies of a
+// message, and text operations (append, replace) leave it as it is; equality
+// compares the text alone.
 class atr_String : public cow_String {
   public:
     using cow_String::cow_String;
@@ -21,6 +35,14 @@ class atr_String : public cow_String {
 
     // Replaces every occurrence of `placeholder` by `value`, without translation.
     atr_String& ReplaceNonTranslated(std::string_view placeholder, cow_String const& value);
+
+    // The place the message concerns, or null when it has none.
+    atr_Location const* Location() const noexcept { return m_location.Get(); }
+    // Gives the message a location, replacing any it had.
+    atr_String& SetLocation(atr_Location location);
+
+  private:
+    cow_CountedHld<atr_Location const> m_location;
 };
 
 // A message format after lookup in the catalogue, with its arguments as they

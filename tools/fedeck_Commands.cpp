@@ -1,5 +1,6 @@
 #include "tools/fedeck_Commands.h"
 
+#include <filesystem>
 #include <new>
 
 #include "pipeline/inp_InputFile.h"
@@ -24,13 +25,20 @@ int lastStageToRun(std::string const& until) {
     return stage;
 }
 
+// Include files are looked for as written, then in the include directory:
+// the one given, or else the deck's own directory, where users keep them.
+std::string includeDirectoryFor(fedeck_Arguments const& arguments) {
+    if (!arguments.includeDir.empty()) return arguments.includeDir;
+    return std::filesystem::path(arguments.operands.front()).parent_path().string();
+}
+
 // A deck run through the pipeline, with what the sink collected on the way.
 class CheckedDeck {
   public:
     CheckedDeck(fedeck_Arguments const& arguments, int lastStage)
         : m_path(arguments.operands.front().c_str()) {
-        if (!arguments.includeDir.empty())
-            m_deck.SetIncludePath(cow_String(arguments.includeDir.c_str()));
+        std::string const includeDirectory = includeDirectoryFor(arguments);
+        if (!includeDirectory.empty()) m_deck.SetIncludePath(cow_String(includeDirectory.c_str()));
         m_stageRun = fedeck_Pipeline::Run(m_deck, m_path, lastStage);
         m_stoppedEarly = m_stageRun != lastStage;
     }
@@ -121,10 +129,12 @@ std::string fedeck_UsageText() {
            "Commands:\n"
            "  check    Runs the stages of a new job on DECK, up to STAGE, and prints\n"
            "           each diagnostic, then one summary line:\n"
-           "             DECK: warning: TEXT\n"
-           "             DECK: error: TEXT          an error (level 1)\n"
-           "             DECK: fatal error: TEXT    a fatal error (level 0 or 2)\n"
+           "             FILE:LINE: warning: TEXT\n"
+           "             FILE:LINE: error: TEXT          an error (level 1)\n"
+           "             FILE:LINE: fatal error: TEXT    a fatal error (level 0 or 2)\n"
            "             DECK: N keywords, E errors, W warnings\n"
+           "           FILE and LINE are where the diagnostic points (an include\n"
+           "           file, say); a diagnostic without a place names DECK alone.\n"
            "           Further lines of a message are indented by four blanks. A stage\n"
            "           that ends with errors ends the run; the summary then adds\n"
            "           \"(stopped after STAGE)\".\n"
@@ -136,17 +146,18 @@ std::string fedeck_UsageText() {
            "\n"
            "Options:\n"
            "  --include-dir DIR  directory searched for include files that are not\n"
-           "                     found as written\n"
+           "                     found as written (default: the deck's directory)\n"
            "  --until STAGE      last stage to run; one of: " +
            stages + " (default: " + lastStage +
            ")\n"
            "  --json             print one JSON object instead of text:\n"
            "                     {\"deck\", \"stage\", \"keywords\", \"diagnostics\": "
            "[{\"severity\",\n"
-           "                     \"level\", \"text\"}], \"includedFiles\", "
-           "\"missingIncludeFiles\"};\n"
-           "                     \"stage\" is the last stage that ran, \"level\" is null for\n"
-           "                     warnings\n"
+           "                     \"level\", \"text\", \"file\", \"line\", \"keyword\"}], "
+           "\"includedFiles\",\n"
+           "                     \"missingIncludeFiles\"}; \"stage\" is the last stage that\n"
+           "                     ran, \"level\" is null for warnings, \"file\", \"line\" and\n"
+           "                     \"keyword\" are null where unknown\n"
            "  --password P       password of the encrypted file (not empty)\n"
            "\n"
            "Exit status:\n"

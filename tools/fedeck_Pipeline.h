@@ -1,11 +1,13 @@
 #pragma once
-// The stages of a new job that the program can run, in pipeline order.
+// The stages of a new job that the program can run: the library's road, by
+// the names `--until` takes.
 
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "pipeline/inp_Stage.h"
 #include "support/cow_String.h"
 
 class inp_InputFile;
@@ -16,15 +18,10 @@ class fedeck_UnreadableDeck : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-struct fedeck_Stage {
-    char const* name;
-    // Runs the stage on `deck`; the diagnostics go to this thread's sink.
-    void (*run)(inp_InputFile& deck, cow_String const& deckPath);
-};
-
 class fedeck_Pipeline {
   public:
-    static std::span<fedeck_Stage const> Stages();
+    // The library's stages, in road order.
+    static std::span<inp_StageInfo const> Stages();
     // The index of the stage called `name`, or -1.
     static int Find(std::string_view name);
     // "a, b, c": the known stage names, for messages.

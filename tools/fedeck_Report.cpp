@@ -10,13 +10,30 @@ namespace {
 
 constexpr std::string_view kContinuationIndent = "    ";
 
-bool isFatalLevel(int level) {
-    return level == wip_LEVEL0 || level == wip_LEVEL2;
+std::string_view severityLabel(wip_Diagnostic const& diagnostic) {
+    switch (diagnostic.severity) {
+        case wip_Severity::Warning:
+            return "warning";
+        case wip_Severity::Error:
+            return "error";
+        case wip_Severity::Fatal:
+            return "fatal error";
+    }
+    return "error";
 }
 
-std::string_view severityLabel(wip_Diagnostic const& diagnostic) {
-    if (!diagnostic.isError) return "warning";
-    return isFatalLevel(diagnostic.level) ? "fatal error" : "error";
+// The parts of a diagnostic's location that are known.
+cow_String const* knownFile(wip_Diagnostic const& diagnostic) {
+    atr_Location const* location = diagnostic.Location();
+    return location && !location->file.IsEmpty() ? &location->file : nullptr;
+}
+int knownLine(wip_Diagnostic const& diagnostic) {
+    atr_Location const* location = diagnostic.Location();
+    return location ? location->line : 0;
+}
+cow_String const* knownKeyword(wip_Diagnostic const& diagnostic) {
+    atr_Location const* location = diagnostic.Location();
+    return location && !location->keyword.IsEmpty() ? &location->keyword : nullptr;
 }
 
 // Messages may end in a line break of their own; the report adds its own.
@@ -49,15 +66,31 @@ void writeJsonStrings(aio_ostream& out, cow_List<cow_String> const& texts) {
     out.put(']');
 }
 
+void writeJsonStringOrNull(aio_ostream& out, cow_String const* text) {
+    if (text)
+        fedeck_WriteJsonString(out, text->View());
+    else
+        out.print("null");
+}
+
 void writeJsonDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) {
-    out.print("{\"severity\": ").print(diagnostic.isError ? "\"error\"" : "\"warning\"");
+    out.print("{\"severity\": ").print(diagnostic.IsError() ? "\"error\"" : "\"warning\"");
     out.print(", \"level\": ");
-    if (diagnostic.isError)
+    if (diagnostic.IsError())
         out << diagnostic.level;
     else
         out.print("null");
     out.print(", \"text\": ");
     fedeck_WriteJsonString(out, diagnostic.text.View());
+    out.print(", \"file\": ");
+    writeJsonStringOrNull(out, knownFile(diagnostic));
+    out.print(", \"line\": ");
+    if (int const line = knownLine(diagnostic); line > 0)
+        out << line;
+    else
+        out.print("null");
+    out.print(", \"keyword\": ");
+    writeJsonStringOrNull(out, knownKeyword(diagnostic));
     out.put('}');
 }
 
@@ -82,11 +115,16 @@ fedeck_Report::fedeck_Report(cow_String deckPath, std::string_view stage, bool s
       m_includedFiles(deck.GetIncludedFiles()),
       m_missingIncludeFiles(deck.GetMissingIncludeFiles()) {
     for (wip_Diagnostic const& diagnostic : m_diagnostics)
-        if (diagnostic.isError) ++m_errorCount;
+        if (diagnostic.IsError()) ++m_errorCount;
 }
 
+// FILE:LINE: where the place is known, as compilers write it, so that
+// editors and CI systems find the line; the deck itself where it is not.
 void fedeck_Report::writeDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) const {
-    out.print(m_deckPath).print(": ").print(severityLabel(diagnostic)).print(": ");
+    cow_String const* file = knownFile(diagnostic);
+    out.print(file ? *file : m_deckPath);
+    if (int const line = knownLine(diagnostic); line > 0) out.put(':') << line;
+    out.print(": ").print(severityLabel(diagnostic)).print(": ");
     writeIndented(out, withoutTrailingBreaks(diagnostic.text.View()));
     out.put('\n');
 }

@@ -24,17 +24,20 @@ class fedeck_Report {
     bool HasErrors() const noexcept { return m_errorCount > 0; }
 
     // One entry per diagnostic, in arrival order:
-    //   DECK: warning: TEXT
-    //   DECK: error: TEXT          (level 1)
-    //   DECK: fatal error: TEXT    (level 0 or 2)
-    // Later lines of a multi-line text are indented by four blanks.
+    //   FILE:LINE: warning: TEXT
+    //   FILE:LINE: error: TEXT
+    //   FILE:LINE: fatal error: TEXT
+    // FILE and LINE are where the diagnostic points; a diagnostic without a
+    // line leaves out ":LINE", one without a file names the deck. Later
+    // lines of a multi-line text are indented by four blanks.
     void WriteDiagnostics(aio_ostream& out) const;
     // DECK: N keywords, E errors, W warnings[ (stopped after STAGE)]
     void WriteSummary(aio_ostream& out) const;
     // One JSON object on one line:
     // {"deck": s, "stage": s, "keywords": n, "diagnostics": [{"severity":
-    // "warning"|"error", "level": n|null, "text": s}, ...], "includedFiles":
-    // [s, ...], "missingIncludeFiles": [s, ...]}
+    // "warning"|"error", "level": n|null, "text": s, "file": s|null, "line":
+    // n|null, "keyword": s|null}, ...], "includedFiles": [s, ...],
+    // "missingIncludeFiles": [s, ...]}
     void WriteJson(aio_ostream& out) const;
 
   private:

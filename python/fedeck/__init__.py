@@ -57,7 +57,8 @@ def parse(path, include_dir=None, organize=True, bulk=True, *, use_numpy=None, v
     """Reads the deck at ``path`` and returns its :class:`Deck`.
 
     ``include_dir``: a directory searched for include files that aren't
-    found as written. ``organize``: nest keywords into their holders (a
+    found as written; None (the default) searches the deck's own directory,
+    where include files are usually kept. ``organize``: nest keywords into their holders (a
     *STEP holds its procedure, loads and output) instead of a flat list.
     ``bulk``: with False the data lines of all keywords but *HEADING and
     *STEP are skipped, which is fast on big decks: their ``data`` is then
@@ -77,7 +78,9 @@ def parse(path, include_dir=None, organize=True, bulk=True, *, use_numpy=None, v
         raise ValueError("use_numpy=True, but NumPy cannot be imported")
     path = os.fspath(path)
     file_name = os.fsencode(path)
-    directory_name = os.fsencode(os.fspath(include_dir)) if include_dir is not None else b""
+    if include_dir is None:
+        include_dir = os.path.dirname(path)
+    directory_name = os.fsencode(os.fspath(include_dir))
     library = _loaded_library()
     _check_readable(path)
     builder = DeckBuilder(use_numpy)

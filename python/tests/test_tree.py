@@ -97,6 +97,16 @@ class IncludedFiles(DeckTestCase):
         self.assertEqual([keyword.name for keyword in found.walk()], ["material", "density"])
         self.assertEqual(found.missing_includes, ())
 
+    def test_includes_beside_the_deck_are_found_without_an_include_dir(self):
+        self.write("model/material.inp", "*MATERIAL, NAME=STEEL\n*DENSITY\n7.85e-09\n")
+        self.write("model/elsewhere/material.inp", "*MATERIAL, NAME=ALUMINIUM\n")
+        deck_path = self.write("model/deck.inp", "*INCLUDE, INPUT=material.inp\n")
+        beside = fedeck.parse(deck_path)
+        self.assertEqual(beside.keywords[0].parameters, {"name": "STEEL"})
+        self.assertEqual(beside.missing_includes, ())
+        chosen = fedeck.parse(deck_path, include_dir=os.path.join(self.directory, "model", "elsewhere"))
+        self.assertEqual(chosen.keywords[0].parameters, {"name": "ALUMINIUM"})
+
     @unittest.skipUnless(os.environ.get("FEDECK_CLI"), "FEDECK_CLI names no fedeck program")
     def test_data_read_from_an_encrypted_file_is_withheld(self):
         plain = self.write("plain.inp", "*NODE\n1, 0.5, 0., 0.\n*NSET, NSET=SECRET\n1\n")

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "TempDeckDirectory.h"
 #include "parser/inp_Parser.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 
@@ -126,4 +126,23 @@ TEST_F(ParserInclude, DeepChainOfAHundredIncludes) {
     EXPECT_EQ(r.keywords.Length(), 99);
     EXPECT_TRUE(r.fatalErrors.IsEmpty());
     EXPECT_EQ(r.included.Length(), 99);
+}
+
+// A failure in an included file points to that file and its line, not to the
+// deck that included it; a failure of the *INCLUDE line points to that line.
+TEST_F(ParserInclude, FailuresCarryTheFileAndLineTheyConcern) {
+    dir.Write("part.inp", "*NODE\n1, 0.\n*NOSUCH\n");
+    IncludeResult r = parseMain("*HEADING\n" + include("part.inp") + "\n*INCLUDE, INPUT=gone.inp\n");
+    ASSERT_EQ(r.errors.Length(), 1);
+    atr_Location const* inInclude = r.errors[0].Location();
+    ASSERT_NE(inInclude, nullptr);
+    EXPECT_EQ(inInclude->file, dir.Path("part.inp"));
+    EXPECT_EQ(inInclude->line, 3);
+    EXPECT_EQ(inInclude->keyword, "NOSUCH");
+    ASSERT_EQ(r.fatalErrors.Length(), 1);
+    atr_Location const* atInclude = r.fatalErrors[0].Location();
+    ASSERT_NE(atInclude, nullptr);
+    EXPECT_EQ(atInclude->file, dir.Path("main.inp"));
+    EXPECT_EQ(atInclude->line, 3);
+    EXPECT_EQ(atInclude->keyword, "INCLUDE");
 }

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "../parser/TempDeckDirectory.h"
 #include "pipeline/inp_Module.h"
 #include "support/ZELBasException.h"
 #include "support/aio_Stream.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
+#include "tests/common/TempDeckDirectory.h"
 
 namespace {
 
@@ -28,12 +28,12 @@ TEST(InputFileParse, DiagnosticsReachTheSinkFatalFirstWarningsLastAndGoodKeyword
 
     auto const& diagnostics = sink().Diagnostics();
     ASSERT_EQ(diagnostics.size(), 3u);
-    EXPECT_TRUE(diagnostics[0].isError);
+    EXPECT_TRUE(diagnostics[0].IsError());
     EXPECT_EQ(diagnostics[0].level, 0);
     EXPECT_EQ(diagnostics[0].text, "Include file \"gone.inp\" does not exist.");
-    EXPECT_TRUE(diagnostics[1].isError);
+    EXPECT_TRUE(diagnostics[1].IsError());
     EXPECT_EQ(diagnostics[1].level, 1);
-    EXPECT_FALSE(diagnostics[2].isError);
+    EXPECT_FALSE(diagnostics[2].IsError());
     EXPECT_EQ(diagnostics[2].text, "Line #2 has been truncated.");
     EXPECT_TRUE(sink().HasErrors());
     sink().Clear();

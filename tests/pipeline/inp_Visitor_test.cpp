@@ -271,7 +271,7 @@ class VisitorReport : public testing::Test {
     static std::vector<std::string> received() {
         std::vector<std::string> texts;
         for (wip_Diagnostic const& d : sink().Diagnostics()) {
-            std::string kind = d.isError ? "E" + std::to_string(d.level) : "W";
+            std::string kind = d.IsError() ? "E" + std::to_string(d.level) : "W";
             texts.push_back(kind + ":" + std::string(d.text.View()));
         }
         return texts;

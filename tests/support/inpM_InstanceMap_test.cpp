@@ -40,7 +40,7 @@ TEST_F(InpMInstanceMapMessages, UnknownInstanceIsReportedThenRaisesNestedText) {
     EXPECT_EQ(raisedText([&] { holder.Get(cow_String("I-8")); }),
               cow_String("GetMap(instanceName).item.HasValue()"));
     ASSERT_EQ(sink().Diagnostics().size(), 2u);
-    EXPECT_TRUE(sink().Diagnostics()[0].isError);
+    EXPECT_TRUE(sink().Diagnostics()[0].IsError());
     EXPECT_EQ(sink().Diagnostics()[0].level, 1);
     EXPECT_EQ(sink().Diagnostics()[0].text, cow_String("Unknown instance I-9"));
     EXPECT_EQ(sink().Diagnostics()[1].text, cow_String("Unknown instance I-8"));

@@ -24,7 +24,7 @@ struct Seen {
 std::vector<Seen> seen(wip_WIP const& sink) {
     std::vector<Seen> result;
     for (wip_Diagnostic const& d : sink.Diagnostics())
-        result.push_back({d.isError, d.level, std::string(d.text.View())});
+        result.push_back({d.IsError(), d.level, std::string(d.text.View())});
     return result;
 }
 
@@ -85,4 +85,44 @@ TEST(WipSink, EachThreadHasItsOwnSink) {
         thr_ThreadSingleton<wip_WIP>::Instance().Error(atr_String("elsewhere"), wip_LEVEL1);
     }).join();
     EXPECT_FALSE(thr_ThreadSingleton<wip_WIP>::Instance().HasErrors());
+}
+
+// Levels 0 and 2 are fatal, every other level an ordinary error; the
+// location a message carries arrives with it, through lists as well.
+TEST(WipSink, SeverityFollowsTheLevelAndLocationsTravelWithTheText) {
+    wip_WIP sink;
+    atr_String located("bad node");
+    located.SetLocation({"part.inp", 12, "NODE"});
+    cow_List<atr_String> list;
+    list.Append(located);
+    sink.ErrorList(list, wip_LEVEL0);
+    sink.Error(atr_String("e"), wip_LEVEL1);
+    sink.Error(atr_String("f"), wip_LEVEL2);
+    sink.Error(atr_String("odd"), static_cast<wip_errorLevelEnm>(7));
+    sink.Warning(atr_String("w"));
+    std::vector<wip_Severity> severities;
+    for (wip_Diagnostic const& d : sink.Diagnostics()) severities.push_back(d.severity);
+    EXPECT_EQ(severities, (std::vector<wip_Severity>{wip_Severity::Fatal, wip_Severity::Error,
+                                                     wip_Severity::Fatal, wip_Severity::Error,
+                                                     wip_Severity::Warning}));
+    atr_Location const* location = sink.Diagnostics()[0].Location();
+    ASSERT_NE(location, nullptr);
+    EXPECT_EQ(location->file, "part.inp");
+    EXPECT_EQ(location->line, 12);
+    EXPECT_EQ(location->keyword, "NODE");
+    EXPECT_EQ(sink.Diagnostics()[1].Location(), nullptr);
+}
+
+TEST(WipSink, ForgetFromLeavesTheEarlierDiagnosticsAndTheirCounts) {
+    wip_WIP sink;
+    sink.Error(atr_String("kept"), wip_LEVEL1);
+    size_t const mark = sink.Diagnostics().size();
+    sink.Error(atr_String("e"), wip_LEVEL0);
+    sink.Warning(atr_String("w"));
+    sink.ForgetFrom(mark);
+    EXPECT_EQ(seen(sink), (std::vector<Seen>{{true, 1, "kept"}}));
+    EXPECT_EQ(sink.ErrorCount(), 1);
+    EXPECT_EQ(sink.WarningCount(), 0);
+    sink.ForgetFrom(5);  // beyond the end: nothing to forget
+    EXPECT_EQ(sink.ErrorCount(), 1);
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "pipeline/inp_InputFile.h"
 #include "support/aio_Stream.h"
@@ -10,10 +11,13 @@
 namespace {
 
 wip_Diagnostic error(int level, char const* text) {
-    return {true, level, atr_String(text)};
+    return {wip_SeverityOfLevel(level), level, atr_String(text)};
+}
+wip_Diagnostic located(int level, char const* text, atr_Location location) {
+    return {wip_SeverityOfLevel(level), level, atr_String(text).SetLocation(std::move(location))};
 }
 wip_Diagnostic warning(char const* text) {
-    return {false, wip_Diagnostic::kNoLevel, atr_String(text)};
+    return {wip_Severity::Warning, wip_Diagnostic::kNoLevel, atr_String(text)};
 }
 
 class ReportOf {
@@ -64,6 +68,25 @@ TEST(CheckReportText, ContinuationLinesAreIndentedAndTrailingBreaksDropped) {
               "dir/deck.inp: warning: a\n");
 }
 
+// The place a diagnostic points to leads its line, as compilers write it;
+// the parts of it that are unknown are left out, and the deck stands in for
+// an unknown file.
+TEST(CheckReportText, LocatedDiagnosticsLeadWithFileAndLine) {
+    ReportOf const report({located(1, "bad", {"inc/part.inp", 4, "NODE"}),
+                           located(2, "no line", {"inc/part.inp", 0, ""}),
+                           located(1, "no file", {"", 7, "STEP"})});
+    EXPECT_EQ(report.Diagnostics(),
+              "inc/part.inp:4: error: bad\n"
+              "inc/part.inp: fatal error: no line\n"
+              "dir/deck.inp:7: error: no file\n");
+    EXPECT_NE(report.Json().find(R"("text": "bad", "file": "inc/part.inp", "line": 4, )"
+                                 R"("keyword": "NODE"})"),
+              std::string::npos);
+    EXPECT_NE(report.Json().find(R"("text": "no file", "file": null, "line": 7, "keyword": )"
+                                 R"("STEP"})"),
+              std::string::npos);
+}
+
 TEST(CheckReportText, SummaryCountsAgreeInNumberAndTellAnEarlyStop) {
     EXPECT_EQ(ReportOf({error(1, "e")}).Summary(),
               "dir/deck.inp: 0 keywords, 1 error, 0 warnings\n");
@@ -75,9 +98,12 @@ TEST(CheckReportJson, DiagnosticsKeepArrivalOrderAndWarningsHaveNoLevel) {
     ReportOf const report({warning("w \"q\""), error(0, "f"), error(1, "line1\nline2")});
     EXPECT_EQ(report.Json(),
               R"({"deck": "dir/deck.inp", "stage": "parse", "keywords": 0, "diagnostics": [)"
-              R"({"severity": "warning", "level": null, "text": "w \"q\""}, )"
-              R"({"severity": "error", "level": 0, "text": "f"}, )"
-              R"({"severity": "error", "level": 1, "text": "line1\u000aline2"}], )"
+              R"({"severity": "warning", "level": null, "text": "w \"q\"", )"
+              R"("file": null, "line": null, "keyword": null}, )"
+              R"({"severity": "error", "level": 0, "text": "f", )"
+              R"("file": null, "line": null, "keyword": null}, )"
+              R"({"severity": "error", "level": 1, "text": "line1\u000aline2", )"
+              R"("file": null, "line": null, "keyword": null}], )"
               R"("includedFiles": [], "missingIncludeFiles": []})"
               "\n");
 }

@@ -165,15 +165,52 @@ TEST_F(FedeckProgram, UnknownKeywordIsAnErrorInTextAndJson) {
     write("deck.inp", "*FROBNICATE\n*NODE\n1, 0., 0.\n");
     Outcome const text = run({"check", "deck.inp"});
     EXPECT_EQ(text.status, 1);
-    EXPECT_EQ(text.out, std::string("deck.inp: error: ") + kUnknownKeywordText +
+    EXPECT_EQ(text.out, std::string("deck.inp:1: error: ") + kUnknownKeywordText +
                             "\ndeck.inp: 1 keyword, 1 error, 0 warnings (stopped after parse)\n");
     Outcome const json = run({"check", "--json", "deck.inp"});
     EXPECT_EQ(json.status, 1);
     EXPECT_NE(json.out.find(R"("diagnostics": [{"severity": "error", "level": 1, "text": )"
                             R"("Unknown keyword \"frobnicate\". The keyword may be misspelled, )"
-                            R"(obsolete, or invalid."}])"),
+                            R"(obsolete, or invalid.", "file": "deck.inp", "line": 1, )"
+                            R"("keyword": "FROBNICATE"}])"),
               std::string::npos)
         << json.out;
+}
+
+// Every diagnostic names the file and line it concerns, in the form editors
+// and CI systems read: the deck's own lines, an include file's lines (parse
+// errors and stage messages alike), and the keyword in the JSON.
+TEST_F(FedeckProgram, DiagnosticsPointToTheirFileAndLine) {
+    std::string deck = "*HEADING\nplate\n";
+    for (int line = 3; line < 12; ++line) deck += "** comment\n";
+    write("deck.inp", deck + "*FROBNICATE\n");
+    EXPECT_EQ(run({"check", "deck.inp"}).out.rfind("deck.inp:12: error: Unknown keyword", 0), 0u);
+
+    fs::create_directory(path("inc"));
+    write("inc/part.inp", "*NODE\n1, 0., 0.\n*FROBNICATE\n");
+    write("top.inp", "*HEADING\n*INCLUDE, INPUT=inc/part.inp\n");
+    Outcome const parse = run({"check", "top.inp"});
+    EXPECT_EQ(parse.status, 1);
+    EXPECT_NE(parse.out.find("inc/part.inp:3: error: Unknown keyword"), std::string::npos)
+        << parse.out;
+
+    write("inc/part.inp", "*NODE\n1, 0., 0.\n*ELSET, ELSET=E, FROB\n1\n");
+    Outcome const stage = run({"check", "--json", "top.inp"});
+    EXPECT_EQ(stage.status, 1);
+    EXPECT_NE(stage.out.find(R"(inc/part.inp", "line": 3, "keyword": "ELSET"})"), std::string::npos)
+        << stage.out;
+}
+
+// A deck's include files are found beside it, wherever it is checked from;
+// --include-dir still decides where it is given.
+TEST_F(FedeckProgram, IncludesBesideTheDeckAreFoundFromAnyDirectory) {
+    fs::create_directories(path("model/other"));
+    write("model/deck.inp", "*HEADING\n*INCLUDE, INPUT=nodes.inp\n");
+    write("model/nodes.inp", "*NODE\n1, 0., 0.\n");
+    write("model/other/nodes.inp", "*FROBNICATE\n");
+    EXPECT_EQ(run({"check", "model/deck.inp"}).out,
+              "model/deck.inp: 2 keywords, 0 errors, 0 warnings\n");
+    EXPECT_EQ(run({"check", "--include-dir", "model/other", "model/deck.inp"}).status, 1);
 }
 
 TEST_F(FedeckProgram, WarningsAloneSucceedAndCarryNoLevel) {
@@ -206,8 +243,8 @@ TEST_F(FedeckProgram, MissingIncludeIsFatalAndListed) {
         << found.out;
     Outcome const text = run({"check", "deck.inp"});
     EXPECT_EQ(text.out,
-              "deck.inp: fatal error: Include file \"part.inp\" does not exist.\n"
-              "deck.inp: fatal error: Include file \"gone.inp\" does not exist.\n"
+              "deck.inp:2: fatal error: Include file \"part.inp\" does not exist.\n"
+              "deck.inp:3: fatal error: Include file \"gone.inp\" does not exist.\n"
               "deck.inp: 1 keyword, 2 errors, 0 warnings (stopped after parse)\n");
 }
 
@@ -227,7 +264,7 @@ TEST_F(FedeckProgram, TreeOfADeckWithErrorsIsPrintedAllTheSame) {
     write("deck.inp", std::string(kCleanDeck) + "*FROBNICATE\n");
     Outcome const tree = run({"tree", "deck.inp"});
     EXPECT_EQ(tree.status, 1);
-    EXPECT_EQ(tree.err, std::string("deck.inp: error: ") + kUnknownKeywordText + "\n");
+    EXPECT_EQ(tree.err, std::string("deck.inp:6: error: ") + kUnknownKeywordText + "\n");
     EXPECT_NE(tree.out.find("*node, nset=ALL\n1, 0., 0.\n"), std::string::npos) << tree.out;
 }
 

@@ -1,0 +1,18 @@
+#pragma once
+// The stages of the road of a new job, in the order inp_InputFile runs them.
+// Each stage relies on a sound result of the ones before it.
+
+enum class inp_Stage : int {
+    Parse,     // the deck's lines into a flat keyword list, include files spliced in
+    Expand,    // every keyword checked and normalised by its vocabulary
+    Organize,  // the flat list made a tree of keywords and their suboptions
+};
+
+class inp_InputFile;
+
+// One stage of the road: what it is, its name, and the member that runs it.
+struct inp_StageInfo {
+    inp_Stage stage;
+    char const* name;  // the stage's name for people and command lines
+    void (inp_InputFile::*run)();
+};
