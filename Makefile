@@ -4,7 +4,7 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan bench fuzz format tidy clean
+.PHONY: all build run test test-asan bench fuzz format format-check tidy clean
 
 all: build
 
@@ -58,8 +58,17 @@ SOURCES = $(shell git ls-files '*.h' '*.cpp')
 format:
 	clang-format -i $(SOURCES)
 
+# Fails when a tracked source is not formatted as .clang-format says.
+format-check:
+	@clang-format --dry-run --Werror $(SOURCES) && echo "clang-format: every tracked source is formatted"
+
+# The library's sources under the checks of .clang-tidy, in parallel; any
+# finding fails the target.
+TIDY_SOURCES = $(filter %.cpp,$(filter-out tests/% bench/% fuzz/%,$(SOURCES)))
+
 tidy: build
-	clang-tidy -p $(BUILD) --quiet $(filter %.cpp,$(filter-out tests/% bench/%,$(SOURCES)))
+	@printf '%s\n' $(TIDY_SOURCES) | xargs -P $(JOBS) -n 4 clang-tidy -p $(BUILD) --quiet --warnings-as-errors='*'
+
 
 clean:
 	rm -rf $(BUILD) $(BUILD_ASAN) $(BUILD_REL) $(BUILD_FUZZ)

@@ -39,13 +39,14 @@ cow_List<inp_Keyword> mixedKeywords(int count) {
         std::string const set = "Set-" + std::to_string(i);
         switch (i % 4) {
             case 0:
-                keywords.Append(keywordOf(
-                    inp_kw_Elset, {{"elset", set.c_str()}, {"gen", nullptr}, {"internal", nullptr}}));
+                keywords.Append(
+                    keywordOf(inp_kw_Elset,
+                              {{"elset", set.c_str()}, {"gen", nullptr}, {"internal", nullptr}}));
                 break;
             case 1:
-                keywords.Append(keywordOf(
-                    inp_kw_ShellSection,
-                    {{"elset", set.c_str()}, {"mat", "Steel-1"}, {"offset", "SPOS"}}));
+                keywords.Append(
+                    keywordOf(inp_kw_ShellSection,
+                              {{"elset", set.c_str()}, {"mat", "Steel-1"}, {"offset", "SPOS"}}));
                 break;
             case 2:
                 keywords.Append(keywordOf(
@@ -53,7 +54,8 @@ cow_List<inp_Keyword> mixedKeywords(int count) {
                 break;
             default:
                 keywords.Append(keywordOf(
-                    inp_kw_Nset, {{"nset", set.c_str()}, {"instance", "Part-1-1"}, {"unsorted", nullptr}}));
+                    inp_kw_Nset,
+                    {{"nset", set.c_str()}, {"instance", "Part-1-1"}, {"unsorted", nullptr}}));
         }
     }
     return keywords;

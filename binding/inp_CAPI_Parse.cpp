@@ -512,7 +512,8 @@ void readDeck(inp_CAPI_InputFile& file, bool organize, int verbose, bool bulk) {
     file.includes = deck.GetIncludedFiles();
     file.missingIncludes = deck.GetMissingIncludeFiles();
     file.missingIncludes.Concatenate(deck.GetMissingDataFiles());
-    for (cow_String const& dataFile : deck.GetDataFiles()) file.includes.AppendUnlessMember(dataFile);
+    for (cow_String const& dataFile : deck.GetDataFiles())
+        file.includes.AppendUnlessMember(dataFile);
     file.keywords = deck.Keywords();
 }
 

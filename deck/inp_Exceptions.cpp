@@ -50,8 +50,8 @@ inp_NoInputParameterException::inp_NoInputParameterException(int line, cow_Strin
 inp_MissingIncludeFileException::inp_MissingIncludeFileException(int line,
                                                                  cow_String const& fileName,
                                                                  cow_String const& includeName)
-    : inp_KeywordException(line, fileName,
-                           atr("Include file \"%s\" does not exist.", includeName), kInclude) {}
+    : inp_KeywordException(line, fileName, atr("Include file \"%s\" does not exist.", includeName),
+                           kInclude) {}
 
 inp_UnreadableIncludeFileException::inp_UnreadableIncludeFileException(
     int line, cow_String const& fileName, cow_String const& includeName)

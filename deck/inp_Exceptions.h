@@ -56,8 +56,8 @@ class inp_KeywordException : public inp_PrimException {
     // `keyword` as the deck wrote it; the location holds it in upper case.
     inp_KeywordException(int line, cow_String const& fileName, atr_String const& message,
                          cow_String const& keyword)
-        : inp_PrimException(atr_String(message).SetLocation(
-              {fileName, line, cow_String(keyword).ToUpper()})),
+        : inp_PrimException(
+              atr_String(message).SetLocation({fileName, line, cow_String(keyword).ToUpper()})),
           m_lineNumber(line),
           m_fileName(fileName) {}
     int LineNumber() const { return m_lineNumber; }

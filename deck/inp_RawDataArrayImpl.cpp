@@ -114,7 +114,8 @@ int inp_RawDataArrayImpl::splitAtCommas(char* block, size_t length) {
     // memchr finds them faster than a loop over the bytes.
     if (!std::memchr(block, '"', length)) {
         char* end = block + length;
-        for (char* comma = block; (comma = static_cast<char*>(std::memchr(comma, ',', size_t(end - comma))));) {
+        for (char* comma = block;
+             (comma = static_cast<char*>(std::memchr(comma, ',', size_t(end - comma))));) {
             *comma++ = 0;
             ++columns;
         }

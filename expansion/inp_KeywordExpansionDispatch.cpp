@@ -23,7 +23,8 @@ static_assert(0 INP_VISITOR_SLOTS(INP_EXPANSION_NOT_COUNTED, INP_EXPANSION_COUNT
 
 // -- the keywords with a handler of their own ----------------------------------------------
 
-std::span<inp_KeywordExpansionVisitor::OwnHandler const> inp_KeywordExpansionVisitor::OwnHandlers() {
+std::span<inp_KeywordExpansionVisitor::OwnHandler const>
+inp_KeywordExpansionVisitor::OwnHandlers() {
     using V = inp_KeywordExpansionVisitor;
     static constexpr OwnHandler kOwnHandlers[] = {
         // Model structure.

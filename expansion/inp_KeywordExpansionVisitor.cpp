@@ -44,8 +44,9 @@ bool keepsCase(inp_Keyword const& keyword, char const* word) {
 inp_Item normalisedValue(inp_Keyword const& keyword, char const* word, inp_Item const& value) {
     if (!isType(value, inp_Types::inp_STRING)) return value;
     cow_String const text = value.AsString();
-    return inp_Item(keepsCase(keyword, word) ? inp_Utils::TakeOutSpacesOutsideQuoted(text.CStr())
-                                             : inp_Utils::TakeOutSpacesAndUpperOutsideQuoted(text.CStr()));
+    return inp_Item(keepsCase(keyword, word)
+                        ? inp_Utils::TakeOutSpacesOutsideQuoted(text.CStr())
+                        : inp_Utils::TakeOutSpacesAndUpperOutsideQuoted(text.CStr()));
 }
 
 bool skippedByGuard(inp_EnumGuard guard, inp_Item const& item) {
@@ -168,8 +169,7 @@ void inp_KeywordExpansionVisitor::ExpandAsDefault(inp_Keyword& keyword, inp_Sche
 
 // -- parameter names --------------------------------------------------------------------------
 
-void inp_KeywordExpansionVisitor::ExpandParameters(inp_Keyword& keyword,
-                                                   char const* const* table) {
+void inp_KeywordExpansionVisitor::ExpandParameters(inp_Keyword& keyword, char const* const* table) {
     expandParameterNames(keyword, table);
 }
 
@@ -196,8 +196,9 @@ void inp_KeywordExpansionVisitor::expandParameterNames(inp_Keyword& keyword,
         if (!expanded.IsMember(key)) {
             m_matched.push_back({word, key});
         } else if (writtenWithoutValue(value)) {
-            warning(keyword,
-                    atr("Repeated parameter: %s.  New definition overrides previous setting.", name));
+            warning(
+                keyword,
+                atr("Repeated parameter: %s.  New definition overrides previous setting.", name));
         } else {
             warning(keyword, atr("Repeated parameter: %s.  New definition of \"%s\" overrides "
                                  "previous setting.",
@@ -328,8 +329,7 @@ void inp_KeywordExpansionVisitor::consumeFileParameter(inp_Keyword& keyword,
     keyword.RemoveParameter(name);
 }
 
-void inp_KeywordExpansionVisitor::ReadInputParameter(cow_String const& path,
-                                                     inp_Keyword& keyword) {
+void inp_KeywordExpansionVisitor::ReadInputParameter(cow_String const& path, inp_Keyword& keyword) {
     if (path.IsEmpty()) {
         error(keyword, atr("Input file is missing"));
         return;
@@ -391,8 +391,7 @@ void inp_KeywordExpansionVisitor::readDataLines(cow_String const& path,
 
 // -- data line cuts -----------------------------------------------------------------------
 
-void inp_KeywordExpansionVisitor::TruncateEachDataLineBeyondItemN(inp_Keyword& keyword,
-                                                                  int items) {
+void inp_KeywordExpansionVisitor::TruncateEachDataLineBeyondItemN(inp_Keyword& keyword, int items) {
     inp_DataArray const& data = keyword.Data();
     if (data.Rows() == 0 || !anyLineExceeds(data, items)) return;
     keyword.SetData(rebuiltFromText(data, data.Rows(), items));
@@ -434,8 +433,7 @@ bool inp_KeywordExpansionVisitor::checkRequiredDataline(inp_Keyword& keyword) {
 }
 
 bool inp_KeywordExpansionVisitor::checkValue(inp_Keyword& keyword, char const* name,
-                                             bool (*accepts)(inp_Item const&),
-                                             char const* format) {
+                                             bool (*accepts)(inp_Item const&), char const* format) {
     inp_Item const* item = keyword.Parameters().Find(name);
     if (!item || accepts(*item)) return true;
     error(keyword, atr(format, cow_String(name).ToUpper(), item->AsString()));
@@ -504,8 +502,7 @@ bool inp_KeywordExpansionVisitor::CheckEnumerated(inp_Keyword& keyword, char con
     return ExpandEnum(keyword, table, parameter);
 }
 
-bool inp_KeywordExpansionVisitor::CheckIntegerOrEnumerated(inp_Keyword& keyword,
-                                                           char const* name,
+bool inp_KeywordExpansionVisitor::CheckIntegerOrEnumerated(inp_Keyword& keyword, char const* name,
                                                            char const* const* table) {
     cow_String const parameter(name);
     inp_Item const* item = keyword.Parameters().Find(parameter);
@@ -542,8 +539,7 @@ void inp_KeywordExpansionVisitor::error(inp_Keyword const& keyword, atr_String c
     AddError(inp_Utils::MessageInKeyword(keyword, text));
 }
 
-void inp_KeywordExpansionVisitor::errorAtFront(inp_Keyword const& keyword,
-                                               atr_String const& text) {
+void inp_KeywordExpansionVisitor::errorAtFront(inp_Keyword const& keyword, atr_String const& text) {
     m_errors.Prepend(inp_Utils::MessageInKeyword(keyword, text));
 }
 

@@ -126,8 +126,7 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     bool CheckIntegerOrLabel(inp_Keyword& keyword, char const* name);
     bool CheckDoubleOrLabel(inp_Keyword& keyword, char const* name);
     bool CheckEnumerated(inp_Keyword& keyword, char const* name, char const* const* table);
-    bool CheckIntegerOrEnumerated(inp_Keyword& keyword, char const* name,
-                                  char const* const* table);
+    bool CheckIntegerOrEnumerated(inp_Keyword& keyword, char const* name, char const* const* table);
 
     // Constructs that are legal in a flat deck but not in one made of parts
     // and instances. Whether the deck is an assembly model is known only once

@@ -40,4 +40,6 @@ inp_SchemaRow const* inp_Schema::Find(int key) {
     return index().byKey[key];
 }
 
-std::vector<inp_SchemaRow const*> const& inp_Schema::AllRows() { return index().rows; }
+std::vector<inp_SchemaRow const*> const& inp_Schema::AllRows() {
+    return index().rows;
+}

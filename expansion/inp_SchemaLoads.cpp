@@ -186,4 +186,6 @@ constexpr inp_SchemaRow kRows[] = {
 }  // namespace
 // clang-format on
 
-std::span<inp_SchemaRow const> inp_SchemaLoadsRows() { return kRows; }
+std::span<inp_SchemaRow const> inp_SchemaLoadsRows() {
+    return kRows;
+}

@@ -224,4 +224,6 @@ constexpr inp_SchemaRow kRows[] = {
 }  // namespace
 // clang-format on
 
-std::span<inp_SchemaRow const> inp_SchemaOutputRows() { return kRows; }
+std::span<inp_SchemaRow const> inp_SchemaOutputRows() {
+    return kRows;
+}

@@ -363,4 +363,6 @@ constexpr inp_SchemaRow kRows[] = {
 }  // namespace
 // clang-format on
 
-std::span<inp_SchemaRow const> inp_SchemaProceduresRows() { return kRows; }
+std::span<inp_SchemaRow const> inp_SchemaProceduresRows() {
+    return kRows;
+}

@@ -9,8 +9,7 @@ inline constexpr char const* inp_wordsNoYes[] = {"NO", "YES", nullptr};
 inline constexpr char const* inp_wordsYesNo[] = {"YES", "NO", nullptr};
 inline constexpr char const* inp_wordsOnOff[] = {"ON", "OFF", nullptr};
 inline constexpr char const* inp_wordsModNew[] = {"MOD", "NEW", nullptr};
-inline constexpr char const* inp_wordsRegionType[] = {"EULERIAN", "LAGRANGIAN", "SLIDING",
-                                                      nullptr};
+inline constexpr char const* inp_wordsRegionType[] = {"EULERIAN", "LAGRANGIAN", "SLIDING", nullptr};
 inline constexpr char const* inp_wordsCoordinatesNodes[] = {"COORDINATES", "NODES", nullptr};
 inline constexpr char const* inp_wordsOneTwo[] = {"1", "2", nullptr};
 inline constexpr char const* inp_wordsStackDirection[] = {"1", "2", "3", "ORIENTATION", nullptr};

@@ -10,11 +10,10 @@
 // /dev/zero or of a pipe would read forever, which says nothing about the
 // parser.
 //
-// The deck is parsed three times: strict, lenient, and strict without data
-// lines; the keywords of the strict parse then go through expansion and
-// organization. Nothing is caught: for a file that exists the parser must
-// report through its lists and never throw, and the stages must take
-// whatever the parser made.
+// The deck goes the road of a new job (a strict parse, expansion and
+// organization, run through whatever the errors), and is parsed twice more:
+// leniently, and strictly without data lines. Nothing is caught: for a file that exists the parser
+// must report through its lists and never throw, and the stages must take whatever the parser made.
 
 #include <unistd.h>
 
@@ -27,9 +26,10 @@
 #include <string>
 #include <string_view>
 
-#include "expansion/inp_KeywordExpansionVisitor.h"
 #include "parser/inp_Parser.h"
-#include "pipeline/inp_OrganizerVisitor.h"
+#include "pipeline/inp_InputFile.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
 
 namespace {
 
@@ -107,20 +107,23 @@ cow_List<inp_Keyword> parse(ScratchDirectory const& files, bool strict, bool bul
     return keywords;
 }
 
-// The visitors' own walks, without the report to the message sink, which
-// would only pile up the diagnostics of every input.
-void expandAndOrganize(ScratchDirectory const& files, cow_List<inp_Keyword> keywords) {
-    inp_KeywordExpansionVisitor expansion;
-    expansion.SetIncludePath(files.Directory());
-    expansion.VisitList(keywords);
-    inp_OrganizerVisitor organizer(expansion.FeatureEnhanced());
-    organizer.VisitList(keywords);
-    cow_List<inp_Keyword> const tree = organizer.Keywords();
+// The library's road through organization. The message sink is put back as
+// it was afterwards, so that the diagnostics of every input don't pile up;
+// they are read once on the way, as a caller would.
+void runTheRoad(ScratchDirectory const& files) {
+    wip_WIP& messages = thr_ThreadSingleton<wip_WIP>::Instance();
+    std::size_t const before = messages.Diagnostics().size();
+    inp_InputFile input;
+    input.SetIncludePath(files.Directory());
+    input.Run(files.Deck(), inp_Stage::Organize, inp_InputFile::RunRule::RunThrough);
+    cow_List<inp_Keyword> const& tree = input.Keywords();
     std::size_t cells = walk(tree);
     for (inp_Keyword const& keyword : tree) cells += walk(keyword.Suboptions());
-    volatile std::size_t sink = cells + expansion.GetErrorList().Length() +
-                                organizer.GetFatalErrorList().Length();
+    for (wip_Diagnostic const& diagnostic : messages.Diagnostics())
+        cells += static_cast<std::size_t>(diagnostic.text.Length());
+    volatile std::size_t sink = cells;
     (void)sink;
+    messages.ForgetFrom(before);
 }
 
 }  // namespace
@@ -137,7 +140,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         files.WriteDeck(input.substr(0, marker));
         files.WriteInclude(input.substr(marker + kIncludeMarker.size()));
     }
-    expandAndOrganize(files, parse(files, true, true));
+    runTheRoad(files);
     parse(files, false, true);
     parse(files, true, false);
     return 0;

@@ -25,7 +25,9 @@ constexpr size_t kReadBufferSize = size_t{128} << 10;
 constexpr int kExpectedEntries = 16384;
 constexpr unsigned kDebugFlag = 30;
 
-bool isLineBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+bool isLineBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
+}
 
 // Whether the line holds the marker of an encrypted file. Data lines seldom
 // hold an asterisk at all, so that is looked for first.
@@ -126,7 +128,9 @@ void inp_Parser::Buffer(char const* line) {
     --m_lineNumber;
 }
 
-bool inp_Parser::IsComment(char const* line) { return line[0] == '*' && line[1] == '*'; }
+bool inp_Parser::IsComment(char const* line) {
+    return line[0] == '*' && line[1] == '*';
+}
 
 bool inp_Parser::IsKeyword(char const* line) {
     while (std::isspace(static_cast<unsigned char>(*line))) ++line;
@@ -172,7 +176,8 @@ cow_String inp_Parser::AppendContinuationLines(char const* line, bool strict) {
             if (strict)
                 throw inp_InvalidContinuationLineException(
                     m_lineNumber, m_fileName,
-                    atr("A keyword has been detected on what is supposed to be a continuation line. Please check "
+                    atr("A keyword has been detected on what is supposed to be a continuation "
+                        "line. Please check "
                         "that a trailing comma has not been mistakenly placed in: %s",
                         result));
             continue;
@@ -200,7 +205,8 @@ inp_Keyword inp_Parser::ParseKeyword(bool strict) {
     m_commentsPending = false;
 
     int comma = text.Find(',');
-    std::string_view nameText = text.View().substr(1, comma < 0 ? std::string_view::npos : size_t(comma) - 1);
+    std::string_view nameText =
+        text.View().substr(1, comma < 0 ? std::string_view::npos : size_t(comma) - 1);
     cow_String name = foldName(nameText);
     inp_KeywordTable& table = inp_KeywordTable::Instance();
     try {
@@ -283,11 +289,13 @@ void inp_Parser::ParseParameters(inp_Keyword& keyword, cow_String const& text, b
 
         if (parameters.IsMember(name)) {
             cow_String shown = cow_String(value).Trim(" \t");
-            atr_String text = value.IsEmpty()
-                                  ? atr("Repeated parameter: %s.  New definition overrides previous setting.", name)
-                                  : atr("Repeated parameter: %s.  New definition of \"%s\" overrides previous "
-                                        "setting.",
-                                        name, shown);
+            atr_String text =
+                value.IsEmpty()
+                    ? atr("Repeated parameter: %s.  New definition overrides previous setting.",
+                          name)
+                    : atr("Repeated parameter: %s.  New definition of \"%s\" overrides previous "
+                          "setting.",
+                          name, shown);
             m_warnings.Append(inp_MessageInKeyword(keyword, text));
         }
 
@@ -296,7 +304,8 @@ void inp_Parser::ParseParameters(inp_Keyword& keyword, cow_String const& text, b
             continue;
         }
         inp_Item item(value);
-        if (item.Type() == inp_Types::inp_NONE && strict) throw inp_InvalidParameterValueException(name, value);
+        if (item.Type() == inp_Types::inp_NONE && strict)
+            throw inp_InvalidParameterValueException(name, value);
         parameters.Insert(name, item);
     }
     keyword.SetParameters(parameters);
@@ -339,14 +348,18 @@ cow_List<inp_Keyword> inp_Parser::Parse(bool strict) {
     }
 
     if (memoryErrors > 0)
-        saveFatalError(atr("Memory errors occured while parsing %s keywords. The errors were likely due to running "
-                           "out of physical memory or swap space.",
-                           memoryErrors));
+        saveFatalError(
+            atr("Memory errors occured while parsing %s keywords. The errors were likely due to "
+                "running "
+                "out of physical memory or swap space.",
+                memoryErrors));
     timer.Stop();
     if (typ_DebugFlags::GetDebugFlags(kDebugFlag) >= 1) {
         pnt_debugPrint().StartDebug(__FILE__, __LINE__);
-        pnt_debugPrint() << "Parse - File: " << m_fileName << "  Elapsed time: " << timer.GetElapsedTime()
-                         << "  Decryption time: " << m_decryptionTime << "  CPU time: " << timer.GetTotalCpuTime();
+        pnt_debugPrint() << "Parse - File: " << m_fileName
+                         << "  Elapsed time: " << timer.GetElapsedTime()
+                         << "  Decryption time: " << m_decryptionTime
+                         << "  CPU time: " << timer.GetTotalCpuTime();
         pnt_debugPrint().EndDebug();
     }
     close();

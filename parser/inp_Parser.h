@@ -15,7 +15,7 @@
 #include "support/cow_List.h"
 
 class inp_Parser : public aio_ifstream {
-public:
+  public:
     static constexpr int kMaxLineLength = 256;
     // Beyond this many entries a message list takes one note and no more.
     static constexpr int kMessageLimit = 25;
@@ -23,8 +23,8 @@ public:
     // Stores the arguments; the file is opened by Parse. A non-empty password
     // sends every line through decryption. With `bulk` false the data lines of
     // all keywords but *HEADING and *STEP are read and dropped.
-    inp_Parser(cow_String fileName, cow_String includePath, cow_List<cow_String> openFiles, cow_String password,
-               bool strictDecryption, bool bulk, bool forScripting);
+    inp_Parser(cow_String fileName, cow_String includePath, cow_List<cow_String> openFiles,
+               cow_String password, bool strictDecryption, bool bulk, bool forScripting);
 
     // The parse loop. `strict` checks parameter names and values and makes a
     // missing include fatal; the pipeline parses strictly. Only a file that
@@ -42,7 +42,7 @@ public:
     int LineNumber() const { return m_lineNumber; }
     bool IsEndOfFile() const { return m_endOfFile; }
 
-private:
+  private:
     // The next line, trimmed of blanks, tabs and carriage returns at both ends.
     // Never null: at the end of the file it is empty and m_endOfFile is set.
     char const* Readline();

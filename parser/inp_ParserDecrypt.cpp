@@ -34,8 +34,9 @@ void inp_Parser::Decrypt(char* line) {
     omi_Timer timer;
     timer.Start();
     if (m_password.IsEmpty())
-        throw inp_EncryptionException(m_lineNumber, m_fileName,
-                                      atr("The encrypted input file, \"%s\", requires a password.", m_fileName));
+        throw inp_EncryptionException(
+            m_lineNumber, m_fileName,
+            atr("The encrypted input file, \"%s\", requires a password.", m_fileName));
 
     cow_String text(line);
     text.LeftTrim(" ");
@@ -46,13 +47,15 @@ void inp_Parser::Decrypt(char* line) {
         plain = uti_Rotor(m_password).Decrypt(utl_base64Decode(text, true));
     } catch (utl_Base64CodecError const& error) {
         if (strictDecryption)
-            throw inp_EncryptionException(
-                m_lineNumber, m_fileName,
-                atr("The encrypted input file, \"%1$s\", cannot be decrypted due to the following; %2$s. Most "
-                    "likely the file is corrupt or the password is incorrect.  The problem may indicate that the "
-                    "file was encrypted with an older version, in which case it should be decrypted with that "
-                    "version before proceeding.",
-                    m_fileName, error.UserReport()));
+            throw inp_EncryptionException(m_lineNumber, m_fileName,
+                                          atr("The encrypted input file, \"%1$s\", cannot be "
+                                              "decrypted due to the following; %2$s. Most "
+                                              "likely the file is corrupt or the password is "
+                                              "incorrect.  The problem may indicate that the "
+                                              "file was encrypted with an older version, in which "
+                                              "case it should be decrypted with that "
+                                              "version before proceeding.",
+                                              m_fileName, error.UserReport()));
     }
     if (plain.EndsWith("\r")) plain.Erase(plain.Length() - 1);
     timer.Stop();
@@ -60,10 +63,10 @@ void inp_Parser::Decrypt(char* line) {
 
     if (m_headerPending) {
         if (countFields(plain) < kHeaderFields)
-            throw inp_EncryptionException(
-                m_lineNumber, m_fileName,
-                atr("Bad header. The encrypted input file, \"%s\", is either corrupt or the password is incorrect.",
-                    m_fileName));
+            throw inp_EncryptionException(m_lineNumber, m_fileName,
+                                          atr("Bad header. The encrypted input file, \"%s\", is "
+                                              "either corrupt or the password is incorrect.",
+                                              m_fileName));
         m_password = headerField(plain, 1);
         m_headerPending = false;
     }

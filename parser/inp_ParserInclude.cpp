@@ -19,7 +19,8 @@ namespace {
 // *INCLUDE reaches no parameter expansion, so its two parameters are
 // recognised here.
 bool abbreviates(cow_String const& name, std::string_view word) {
-    return !name.IsEmpty() && static_cast<size_t>(name.Length()) <= word.size() && word.starts_with(name.View());
+    return !name.IsEmpty() && static_cast<size_t>(name.Length()) <= word.size() &&
+           word.starts_with(name.View());
 }
 
 }  // namespace
@@ -27,7 +28,8 @@ bool abbreviates(cow_String const& name, std::string_view word) {
 cow_String inp_Parser::includeFileName(inp_Keyword const& include, cow_String& password) const {
     cow_String fileName;
     bool haveFile = false, havePassword = false;
-    for (cow_ConstMapIterator<cow_String, inp_Item> it(include.Parameters()); it.NotDone(); it.Next()) {
+    for (cow_ConstMapIterator<cow_String, inp_Item> it(include.Parameters()); it.NotDone();
+         it.Next()) {
         if (!haveFile && abbreviates(it.CurrentKey(), "input")) {
             fileName = it.CurrentValue().AsString();
             haveFile = true;
@@ -53,16 +55,20 @@ cow_List<inp_Keyword> inp_Parser::IncludeFile(inp_Keyword const& include, bool s
     cow_String found = inp_LocateDeckFile(name, m_includePath);
     if (found.IsEmpty()) {
         // "None" is what a value of no type reads as in a lenient parse.
-        if (name != "None") m_missingIncludeFiles.AppendUnlessMember(ZELBasUtlFilePath(unquoted).FileName());
+        if (name != "None")
+            m_missingIncludeFiles.AppendUnlessMember(ZELBasUtlFilePath(unquoted).FileName());
         throw inp_MissingIncludeFileException(m_lineNumber, m_fileName, name);
     }
     ZELBasUtlFilePath path(found);
-    if (!path.IsReadable()) throw inp_UnreadableIncludeFileException(m_lineNumber, m_fileName, name);
+    if (!path.IsReadable())
+        throw inp_UnreadableIncludeFileException(m_lineNumber, m_fileName, name);
     cow_String absolute = path.AbsolutePathName();
-    if (m_openFiles.IsMember(absolute)) throw inp_CircularIncludeFileException(m_lineNumber, m_fileName, name);
+    if (m_openFiles.IsMember(absolute))
+        throw inp_CircularIncludeFileException(m_lineNumber, m_fileName, name);
     m_includedFiles.Append(name);
 
-    inp_Parser nested(absolute, m_includePath, m_openFiles, password, strictDecryption, bulk, false);
+    inp_Parser nested(absolute, m_includePath, m_openFiles, password, strictDecryption, bulk,
+                      false);
     cow_List<inp_Keyword> keywords;
     try {
         keywords = nested.Parse(strict);
@@ -81,8 +87,10 @@ cow_List<inp_Keyword> inp_Parser::IncludeFile(inp_Keyword const& include, bool s
 void inp_Parser::mergeIncludeLists(inp_Parser const& nested) {
     m_errors.Concatenate(nested.GetErrors());
     m_fatalErrors.Concatenate(nested.GetFatalErrors());
-    for (cow_String const& name : nested.GetIncludedFiles()) m_includedFiles.AppendUnlessMember(name);
-    for (cow_String const& name : nested.GetMissingIncludeFiles()) m_missingIncludeFiles.AppendUnlessMember(name);
+    for (cow_String const& name : nested.GetIncludedFiles())
+        m_includedFiles.AppendUnlessMember(name);
+    for (cow_String const& name : nested.GetMissingIncludeFiles())
+        m_missingIncludeFiles.AppendUnlessMember(name);
 }
 
 // The lines in front of the first keyword of the included file continue the
@@ -104,8 +112,8 @@ void inp_Parser::takeLeadingLinesOfInclude(inp_Parser const& nested, cow_String 
     if (added > 0 && !password.IsEmpty()) last.SetEncrypted(true);
     if (typ_DebugFlags::GetDebugFlags(30) >= 2) {
         pnt_debugPrint().StartDebug(__FILE__, __LINE__);
-        pnt_debugPrint() << added << " lines added to keyword \"" << last.Name() << "\" from input file \""
-                         << nested.FileName() << "\".";
+        pnt_debugPrint() << added << " lines added to keyword \"" << last.Name()
+                         << "\" from input file \"" << nested.FileName() << "\".";
         pnt_debugPrint().EndDebug();
     }
 }

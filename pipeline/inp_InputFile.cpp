@@ -11,7 +11,8 @@ inp_InputFile::inp_InputFile() : m_options(inp_InputFileOptions::FromHostCommand
 void inp_InputFile::Parse(cow_String fileName) {
     m_fileName = fileName;
     inp_Parser parser(fileName, m_options.includePath, cow_List<cow_String>(), cow_String(),
-                      /*strictDecryption=*/m_options.strictParse, m_options.bulk, m_options.forScripting);
+                      /*strictDecryption=*/m_options.strictParse, m_options.bulk,
+                      m_options.forScripting);
     m_keywords = parser.Parse(/*strict=*/m_options.strictParse);
     m_includedFiles = parser.GetIncludedFiles();
     m_missingIncludeFiles = parser.GetMissingIncludeFiles();
@@ -44,4 +45,6 @@ void inp_InputFile::DiscardEmptyKeywords() {
     if (anyBlank) m_keywords = kept;
 }
 
-cow_String inp_InputFile::TakeOutSpacesOutsideQuoted(char const* text) { return inp_TakeOutSpacesOutsideQuoted(text); }
+cow_String inp_InputFile::TakeOutSpacesOutsideQuoted(char const* text) {
+    return inp_TakeOutSpacesOutsideQuoted(text);
+}

@@ -26,7 +26,7 @@ class aio_ostream;
 class eli_eostream;
 
 class inp_InputFile {
-public:
+  public:
     // Options of a new job of the host (inp_InputFileOptions::FromHostCommandLine).
     inp_InputFile();
     explicit inp_InputFile(inp_InputFileOptions options) : m_options(std::move(options)) {}
@@ -107,7 +107,9 @@ public:
     bool HasMapSolution() const { return m_mapSolution; }
     bool UsesImportedData() const { return m_useImportedData; }
     int NumberRestartSteps() const { return m_numberRestartSteps; }
-    cow_List<inp_Keyword> const& AssemblyElementKeywords() const { return m_assemblyElementKeywords; }
+    cow_List<inp_Keyword> const& AssemblyElementKeywords() const {
+        return m_assemblyElementKeywords;
+    }
     cow_List<cow_String> const& ImportedInstanceNames() const { return m_importedInstanceNames; }
 
     // The model maps, filled by the extraction stages: part level, assembly
@@ -118,7 +120,9 @@ public:
     inpM_SetMap const& PartElsets() const { return m_partElsets; }
     inpM_SurfaceMap const& PartSurfaces() const { return m_partSurfaces; }
     inp_CoordMap const& AssemblyCoordMap() const { return m_assemblyCoordMap; }
-    inpM_InstanceMap<inp_MapInt2Element> const& AssemblyElementMap() const { return m_assemblyElementMap; }
+    inpM_InstanceMap<inp_MapInt2Element> const& AssemblyElementMap() const {
+        return m_assemblyElementMap;
+    }
     inpM_SetMap const& AssemblyNsets() const { return m_assemblyNsets; }
     inpM_SetMap const& AssemblyElsets() const { return m_assemblyElsets; }
     inpM_SurfaceMap const& AssemblySurfaces() const { return m_assemblySurfaces; }
@@ -140,13 +144,15 @@ public:
     void SetInOdbConverter(bool inConverter) { m_inOdbConverter = inConverter; }
     void SetUseImportedData(bool useImported) { m_useImportedData = useImported; }
     void SetNumberRestartSteps(int steps) { m_numberRestartSteps = steps; }
-    void SetImportedInstanceNames(cow_List<cow_String> const& names) { m_importedInstanceNames = names; }
+    void SetImportedInstanceNames(cow_List<cow_String> const& names) {
+        m_importedInstanceNames = names;
+    }
     // The sets and surfaces of the job an import job reads from.
     void SetImportedNsets(inpM_SetMap const& sets) { m_importedNsets = sets; }
     void SetImportedElsets(inpM_SetMap const& sets) { m_importedElsets = sets; }
     void SetImportedSurfaces(inpM_SurfaceMap const& surfaces) { m_importedSurfaces = surfaces; }
 
-private:
+  private:
     friend struct inp_RoadTable;  // the table of stages, in inp_InputFileRoad.cpp
 
     // The parse stage of the road: Parse of the deck that Run was given.

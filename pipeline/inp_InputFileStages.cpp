@@ -20,7 +20,8 @@ void printStageTime(char const* label, omi_Timer& timer) {
     timer.Stop();
     if (typ_DebugFlags::GetDebugFlags(kDebugFlag) < 1) return;
     pnt_debugPrint().StartDebug(__FILE__, __LINE__);
-    pnt_debugPrint() << label << timer.GetElapsedTime() << "  CPU time: " << timer.GetTotalCpuTime();
+    pnt_debugPrint() << label << timer.GetElapsedTime()
+                     << "  CPU time: " << timer.GetTotalCpuTime();
     pnt_debugPrint().EndDebug();
 }
 
@@ -43,10 +44,12 @@ void inp_InputFile::ExpandKeywords() {
     m_dataFiles = expansion.GetIncludedFiles();
     m_missingDataFiles = expansion.GetMissingIncludedFiles();
 
-    bool const explicitRigidSurface = expansion.IsExplicitJob() && expansion.HasRigidSurfaceKeyword();
+    bool const explicitRigidSurface =
+        expansion.IsExplicitJob() && expansion.HasRigidSurfaceKeyword();
     if (explicitRigidSurface) {
         thr_ThreadSingleton<wip_WIP>::Instance().Error(
-            atr("the *RIGID SURFACE option is not supported in Fenrik/Explicit; use the *SURFACE option in "
+            atr("the *RIGID SURFACE option is not supported in Fenrik/Explicit; use the *SURFACE "
+                "option in "
                 "conjunction with the *RIGID BODY option instead."),
             wip_LEVEL1);
     }
@@ -56,7 +59,8 @@ void inp_InputFile::ExpandKeywords() {
     if (m_partsAndAssembly) {
         m_partModelAllowed = true;
     } else if (m_partModelAllowed) {
-        if (expansion.IsElementFileParameter() || explicitRigidSurface || expansion.HasNmapBlended())
+        if (expansion.IsElementFileParameter() || explicitRigidSurface ||
+            expansion.HasNmapBlended())
             m_partModelAllowed = false;
     }
 

@@ -19,7 +19,9 @@ void initializeSupport() {
     thr_ThreadSingleton<wip_WIP>::Instance();
 }
 
-void finalizeSupport() { thr_ThreadSingleton<wip_WIP>::Finalize(); }
+void finalizeSupport() {
+    thr_ThreadSingleton<wip_WIP>::Finalize();
+}
 
 }  // namespace
 

@@ -10,4 +10,6 @@ bool cow_DropReference(int* count) noexcept {
     return true;
 }
 
-bool cow_DropIsLast(int& refs) noexcept { return --refs == 0; }
+bool cow_DropIsLast(int& refs) noexcept {
+    return --refs == 0;
+}

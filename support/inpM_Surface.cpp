@@ -236,9 +236,8 @@ void inpM_ElementFaceIdSurface::Add(inpM_PartInstanceSurface const& other) {
             return;
         }
     }
-    theirs.ForEachSorted([this](cow_String const& faceId, cow_List<int> const& elements) {
-        Add(faceId, elements);
-    });
+    theirs.ForEachSorted(
+        [this](cow_String const& faceId, cow_List<int> const& elements) { Add(faceId, elements); });
 }
 
 void inpM_ElementFaceIdSurface::Difference(inpM_PartInstanceSurface const& other) {

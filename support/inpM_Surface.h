@@ -189,7 +189,9 @@ class inpM_ElementFaceIdSurface : public inpM_PartInstanceSurface {
     inpM_ElementFaceIdSurface(cow_String const& faceId, cow_List<int> const& elements);
 
     inpM_SurfaceTypes Type() const override { return inpM_ElementFaceIdSurfaceType; }
-    inpM_ElementFaceIdSurface* Copy() const override { return new inpM_ElementFaceIdSurface(*this); }
+    inpM_ElementFaceIdSurface* Copy() const override {
+        return new inpM_ElementFaceIdSurface(*this);
+    }
     // "element-face surface, <f> faces, <n> elements" ("(internal)" after
     // "surface" when internal), then per face identifier, ascending, a line
     // "  <faceId>:" with up to 16 element ids, and continuation lines of up to
@@ -257,5 +259,4 @@ inpM_PartInstanceSurfaceHandle CreateSurface(inpM_SurfaceTypes type);
 // all the surface's ids count as missing: kept with keepMissing, dropped
 // without. An analytical surface stays as it is.
 void RenumberInstanceSurface(inpM_PartInstanceSurface& surface, cow_String const& instance,
-                             inpM_IdMap const& nodes, inpM_IdMap const& elements,
-                             bool keepMissing);
+                             inpM_IdMap const& nodes, inpM_IdMap const& elements, bool keepMissing);

@@ -101,13 +101,12 @@ void inpM_SurfaceMap::Print(aio_ostream& out) const {
             out << "surface " << name << ": ";
             surface.Print(out);
         });
-    m_partSurfaces.ForEachSorted(
-        [&out](cow_String const& instance, inpM_PartInstanceSurfaceMap const& surfaces) {
-            surfaces.ForEachSorted(
-                [&out, &instance](cow_String const& name,
-                                  inpM_PartInstanceSurfaceHandle const& surface) {
-                    out << "instance " << instance << " surface " << name << ": ";
-                    surface->Print(out);
-                });
+    m_partSurfaces.ForEachSorted([&out](cow_String const& instance,
+                                        inpM_PartInstanceSurfaceMap const& surfaces) {
+        surfaces.ForEachSorted([&out, &instance](cow_String const& name,
+                                                 inpM_PartInstanceSurfaceHandle const& surface) {
+            out << "instance " << instance << " surface " << name << ": ";
+            surface->Print(out);
         });
+    });
 }

@@ -78,7 +78,9 @@ class inpM_SurfaceMap {
     // they end up empty, so that their names still resolve.
     void Renumber(inpM_IdMap const& nodes, inpM_IdMap const& elements, bool keepMissing);
 
-    bool IsEmpty() const noexcept { return m_assemblySurfaces.IsEmpty() && m_partSurfaces.IsEmpty(); }
+    bool IsEmpty() const noexcept {
+        return m_assemblySurfaces.IsEmpty() && m_partSurfaces.IsEmpty();
+    }
     void Clear() noexcept;
 
     // For each assembly surface, ascending: "surface <name>: " and its Print;

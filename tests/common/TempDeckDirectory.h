@@ -9,9 +9,10 @@
 #include "support/cow_String.h"
 
 class TempDeckDirectory {
-public:
+  public:
     TempDeckDirectory() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "fedeck-test-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "fedeck-test-XXXXXX").string();
         char* made = mkdtemp(pattern.data());
         if (made) m_path = made;
     }
@@ -27,9 +28,11 @@ public:
         std::ofstream(m_path / name, std::ios::binary) << text;
         return Path(name);
     }
-    cow_String Path(std::string const& name) const { return cow_String((m_path / name).string().c_str()); }
+    cow_String Path(std::string const& name) const {
+        return cow_String((m_path / name).string().c_str());
+    }
     cow_String Directory() const { return cow_String(m_path.string().c_str()); }
 
-private:
+  private:
     std::filesystem::path m_path;
 };

@@ -20,7 +20,9 @@
 
 namespace {
 
-std::filesystem::path corpusDirectory() { return std::filesystem::path(__FILE__).parent_path() / "corpus"; }
+std::filesystem::path corpusDirectory() {
+    return std::filesystem::path(__FILE__).parent_path() / "corpus";
+}
 
 std::vector<std::string> corpusDeckNames() {
     std::vector<std::string> names;
@@ -32,7 +34,9 @@ std::vector<std::string> corpusDeckNames() {
     return names;
 }
 
-wip_WIP& sink() { return thr_ThreadSingleton<wip_WIP>::Instance(); }
+wip_WIP& sink() {
+    return thr_ThreadSingleton<wip_WIP>::Instance();
+}
 
 // One deck after parsing and expansion, with every diagnostic as text.
 struct ExpandedDeck {
@@ -109,17 +113,19 @@ class ExpansionCorpus : public ::testing::TestWithParam<std::string> {};
 TEST_P(ExpansionCorpus, DeckParsesWithoutDiagnostics) {
     ExpandedDeck deck = expandDeck(GetParam());
     EXPECT_GT(deck.keywords.Length(), 50) << GetParam() << ": the deck was not read";
-    EXPECT_TRUE(deck.parseDiagnostics.empty()) << GetParam() << ":" << listed(deck.parseDiagnostics);
+    EXPECT_TRUE(deck.parseDiagnostics.empty())
+        << GetParam() << ":" << listed(deck.parseDiagnostics);
 }
 
 TEST_P(ExpansionCorpus, EveryParameterNameAndValueIsKnown) {
     ExpandedDeck deck = expandDeck(GetParam());
     std::vector<std::string> vocabulary;
     for (auto const* texts : {&deck.expansionErrors, &deck.expansionWarnings}) {
-        std::copy_if(texts->begin(), texts->end(), std::back_inserter(vocabulary), speaksOfVocabulary);
+        std::copy_if(texts->begin(), texts->end(), std::back_inserter(vocabulary),
+                     speaksOfVocabulary);
     }
-    EXPECT_TRUE(vocabulary.empty()) << GetParam() << ": " << vocabulary.size() << " unknown words"
-                                    << listed(vocabulary);
+    EXPECT_TRUE(vocabulary.empty())
+        << GetParam() << ": " << vocabulary.size() << " unknown words" << listed(vocabulary);
 }
 
 // A correct deck gives the stage nothing at all to complain of; this also
@@ -127,7 +133,8 @@ TEST_P(ExpansionCorpus, EveryParameterNameAndValueIsKnown) {
 TEST_P(ExpansionCorpus, ExpandsWithoutErrorsOrWarnings) {
     ExpandedDeck deck = expandDeck(GetParam());
     EXPECT_TRUE(deck.expansionErrors.empty()) << GetParam() << ":" << listed(deck.expansionErrors);
-    EXPECT_TRUE(deck.expansionWarnings.empty()) << GetParam() << ":" << listed(deck.expansionWarnings);
+    EXPECT_TRUE(deck.expansionWarnings.empty())
+        << GetParam() << ":" << listed(deck.expansionWarnings);
 }
 
 // The deck's file name without extension, as a test name may spell it.
@@ -139,7 +146,8 @@ std::string testNameOf(::testing::TestParamInfo<std::string> const& info) {
     return name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Decks, ExpansionCorpus, ::testing::ValuesIn(corpusDeckNames()), testNameOf);
+INSTANTIATE_TEST_SUITE_P(Decks, ExpansionCorpus, ::testing::ValuesIn(corpusDeckNames()),
+                         testNameOf);
 
 // -- the expansion did its work on each deck -----------------------------------------
 
@@ -147,7 +155,8 @@ INSTANTIATE_TEST_SUITE_P(Decks, ExpansionCorpus, ::testing::ValuesIn(corpusDeckN
 TEST(ExpansionCorpusContents, CorpusIsFoundBesideThisFile) {
     std::vector<std::string> names = corpusDeckNames();
     EXPECT_GE(names.size(), 5u) << corpusDirectory().string();
-    for (char const* deck : {"flat_panel_strap.inp", "static_plate_stiffener.inp", "contact_punch.inp"}) {
+    for (char const* deck :
+         {"flat_panel_strap.inp", "static_plate_stiffener.inp", "contact_punch.inp"}) {
         EXPECT_NE(std::find(names.begin(), names.end(), deck), names.end()) << deck;
     }
 }
@@ -181,9 +190,10 @@ TEST(ExpansionCorpusContents, PartsDeckKeepsStepNamesAndExpandsEnumerations) {
     EXPECT_EQ(parameterText(nthKeyword(deck, inp_kw_Step, 0), "name"), "Preload");
     EXPECT_EQ(parameterText(nthKeyword(deck, inp_kw_Step, 1), "name"), "TipLoad");
     EXPECT_EQ(parameterText(nthKeyword(deck, inp_kw_Plastic, 0), "hardening"), "KINEMATIC");
-    EXPECT_EQ(parameterText(nthKeyword(deck, inp_kw_ShellSection), "sectionintegration"), "SIMPSON");
+    EXPECT_EQ(parameterText(nthKeyword(deck, inp_kw_ShellSection), "sectionintegration"),
+              "SIMPSON");
     EXPECT_EQ(parameterText(nthKeyword(deck, inp_kw_Output, 2), "frequency"), "2");  // freq=2
-    EXPECT_TRUE(nthKeyword(deck, inp_kw_Elset, 1).HasParameter("generate"));       // gen
+    EXPECT_TRUE(nthKeyword(deck, inp_kw_Elset, 1).HasParameter("generate"));         // gen
     // Other string values are folded to upper case.
     EXPECT_EQ(parameterText(nthKeyword(deck, inp_kw_Material), "name"), "ALUMINIUM");
 }
@@ -194,15 +204,18 @@ TEST(ExpansionCorpusContents, DynamicDecksExpandSectionsDataWordsAndTheExplicitF
     EXPECT_EQ(parameterText(nthKeyword(implicit, inp_kw_BeamSection, 1), "section"), "RECTANGULAR");
     EXPECT_EQ(parameterText(nthKeyword(implicit, inp_kw_BeamSection, 2), "section"), "CIRCULAR");
     EXPECT_EQ(parameterText(nthKeyword(implicit, inp_kw_Frequency), "eigensolver"), "LANCZOS");
-    EXPECT_EQ(parameterText(nthKeyword(implicit, inp_kw_Dynamic), "application"), "MODERATEDISSIPATION");
+    EXPECT_EQ(parameterText(nthKeyword(implicit, inp_kw_Dynamic), "application"),
+              "MODERATEDISSIPATION");
     inp_Keyword const& connector = nthKeyword(implicit, inp_kw_ConnectorSection);
     ASSERT_GT(connector.Data().Rows(), 0);
     EXPECT_STREQ(connector.Data().AsString(0, 0).CStr(), "AXIAL");
 
     ExpandedDeck explicitDeck = expandDeck("dynamic_impact_explicit.inp");
     EXPECT_TRUE(explicitDeck.explicitJob);
-    EXPECT_EQ(parameterText(nthKeyword(explicitDeck, inp_kw_Amplitude), "definition"), "SMOOTHSTEP");
-    EXPECT_EQ(parameterText(nthKeyword(explicitDeck, inp_kw_DamageEvolution), "softening"), "LINEAR");
+    EXPECT_EQ(parameterText(nthKeyword(explicitDeck, inp_kw_Amplitude), "definition"),
+              "SMOOTHSTEP");
+    EXPECT_EQ(parameterText(nthKeyword(explicitDeck, inp_kw_DamageEvolution), "softening"),
+              "LINEAR");
 }
 
 TEST(ExpansionCorpusContents, ContactAndThermalDecksFoldBlanksOutOfWords) {
@@ -213,7 +226,8 @@ TEST(ExpansionCorpusContents, ContactAndThermalDecksFoldBlanksOutOfWords) {
     ASSERT_NE(adjust, nullptr);
     EXPECT_EQ(adjust->Type(), inp_Types::inp_REAL);  // a distance stays a number
     EXPECT_TRUE(nthKeyword(contact, inp_kw_ContactInclusions).HasParameter("allexterior"));
-    EXPECT_EQ(parameterText(nthKeyword(contact, inp_kw_SurfaceBehavior), "pressure-overclosure"), "HARD");
+    EXPECT_EQ(parameterText(nthKeyword(contact, inp_kw_SurfaceBehavior), "pressure-overclosure"),
+              "HARD");
     EXPECT_EQ(parameterText(nthKeyword(contact, inp_kw_Coupling), "constraintname"), "PUNCHDRIVE");
 
     ExpandedDeck thermal = expandDeck("thermal_housing.inp");

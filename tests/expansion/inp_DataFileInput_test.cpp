@@ -60,12 +60,14 @@ TEST_F(DataFileInput, LinesFollowTheKeywordsOwnDataCommentsVanishAndTheParameter
     EXPECT_EQ(dataOf(keyword), "first|0.0,1.0|*|2.0,abc");  // no blank line at the end: case kept
     EXPECT_FALSE(keyword.HasParameter("input"));
     visitor.ReadInputParameter(path, keyword);
-    EXPECT_EQ(texts(visitor.GetIncludedFiles()), (std::vector<std::string>{path.CStr(), path.CStr()}));
+    EXPECT_EQ(texts(visitor.GetIncludedFiles()),
+              (std::vector<std::string>{path.CStr(), path.CStr()}));
     EXPECT_TRUE(visitor.GetErrorList().IsEmpty());
 }
 
 TEST_F(DataFileInput, TrailingBlankLinesVanishAndTheWholeArrayIsRebuiltFromItsText) {
-    inp_Keyword keyword = keywordReading(inp_kw_Node, dir.Write("nodes.dat", "1, a b\n\n2,\"Q r\"\n \n\n"));
+    inp_Keyword keyword =
+        keywordReading(inp_kw_Node, dir.Write("nodes.dat", "1, a b\n\n2,\"Q r\"\n \n\n"));
     keyword.Data().Append("0, old");
     visitor.ProcessInputParameter(keyword);
     EXPECT_EQ(dataOf(keyword), "0,OLD|1,AB||2,\"Q r\"");
@@ -86,7 +88,8 @@ TEST_F(DataFileInput, AKeywordLineStopsTheReadAndKeepsTheLinesBeforeIt) {
 
 TEST_F(DataFileInput, ALineBeyondTheBufferKeepsItsStartAndEndsTheRead) {
     std::string const longLine(300, '7');
-    inp_Keyword keyword = keywordReading(inp_kw_Node, dir.Write("long.dat", "1\n" + longLine + "\n3\n"));
+    inp_Keyword keyword =
+        keywordReading(inp_kw_Node, dir.Write("long.dat", "1\n" + longLine + "\n3\n"));
     visitor.ProcessInputParameter(keyword);
     EXPECT_EQ(dataOf(keyword), "1|" + longLine.substr(0, 255));
 }
@@ -126,10 +129,11 @@ TEST_F(DataFileInput, DeckKeywordsConsumeTheirFilesThroughTheirHandlers) {
     dir.Write("n.dat", "1, 0., 0.\n2, 1., 0.\n");
     dir.Write("s.dat", "1., 2.\n");
     dir.Write("d.dat", "3, 4\n");
-    cow_String const deck = dir.Write(
-        "deck.inp",
-        "*NODE, INPUT=n.dat\n*SPECTRUM, NAME=S, FILE=s.dat\n*DESIGN SHAPE VARIATION, INP=d.dat, PARAMETER=Px\n");
-    inp_Parser parser(deck, dir.Directory(), cow_List<cow_String>(), cow_String(), true, true, false);
+    cow_String const deck = dir.Write("deck.inp",
+                                      "*NODE, INPUT=n.dat\n*SPECTRUM, NAME=S, FILE=s.dat\n*DESIGN "
+                                      "SHAPE VARIATION, INP=d.dat, PARAMETER=Px\n");
+    inp_Parser parser(deck, dir.Directory(), cow_List<cow_String>(), cow_String(), true, true,
+                      false);
     cow_List<inp_Keyword> keywords = parser.Parse(true);
     ASSERT_EQ(keywords.Length(), 3);
     visitor.SetIncludePath(dir.Directory());
@@ -140,6 +144,7 @@ TEST_F(DataFileInput, DeckKeywordsConsumeTheirFilesThroughTheirHandlers) {
     EXPECT_EQ(dataOf(keywords[2]), "3,4");
     EXPECT_FALSE(keywords[1].HasParameter("file") || keywords[2].HasParameter("input"));
     EXPECT_EQ(keywords[2].Parameters().ConstGet("parameter").AsString(), "Px");
-    EXPECT_EQ(texts(visitor.GetIncludedFiles()), (std::vector<std::string>{"n.dat", "s.dat", "d.dat"}));
+    EXPECT_EQ(texts(visitor.GetIncludedFiles()),
+              (std::vector<std::string>{"n.dat", "s.dat", "d.dat"}));
     EXPECT_TRUE(visitor.GetErrorList().IsEmpty()) << visitor.Errors().CStr();
 }

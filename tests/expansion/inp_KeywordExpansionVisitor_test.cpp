@@ -46,13 +46,14 @@ inp_Types::typeEnm typeOf(inp_Keyword const& keyword, char const* name) {
 // The parameter names of a map in its iteration order.
 std::vector<std::string> iterationOrder(inp_Keyword const& keyword) {
     std::vector<std::string> names;
-    for (cow_ConstMapIterator<cow_String, inp_Item> it(keyword.Parameters()); it.NotDone(); it.Next())
+    for (cow_ConstMapIterator<cow_String, inp_Item> it(keyword.Parameters()); it.NotDone();
+         it.Next())
         names.emplace_back(it.CurrentKey().View());
     return names;
 }
 
 constexpr char const* kSetWords[] = {"elset", "element", "generate", "nset", nullptr};
-constexpr char const* kDefinitionWords[] = {"ACTUATOR",   "BUBBLE",   "DECAY", "SOLUTIONDEPENDENT",
+constexpr char const* kDefinitionWords[] = {"ACTUATOR",   "BUBBLE",  "DECAY", "SOLUTIONDEPENDENT",
                                             "SMOOTHSTEP", "TABULAR", nullptr};
 
 }  // namespace
@@ -106,8 +107,10 @@ TEST(ParameterNameExpansion, UnknownNamesStayAsWrittenWithAnErrorEach) {
 TEST(ParameterNameExpansion, StringValuesAreFoldedExceptFileNamesAndTheStepName) {
     constexpr char const* words[] = {"elset", "input", "name", "parameter", "inc", nullptr};
     inp_KeywordExpansionVisitor visitor;
-    inp_Keyword elset = keywordOf(
-        inp_kw_Elset, {{"elset", "top set"}, {"input", "My Data.inp"}, {"inc", "1 0"}, {"name", "\"Mixed Case\""}});
+    inp_Keyword elset = keywordOf(inp_kw_Elset, {{"elset", "top set"},
+                                                 {"input", "My Data.inp"},
+                                                 {"inc", "1 0"},
+                                                 {"name", "\"Mixed Case\""}});
     visitor.ExpandParameters(elset, words);
     EXPECT_EQ(valueOf(elset, "elset"), "TOPSET");
     EXPECT_EQ(valueOf(elset, "input"), "MyData.inp");
@@ -132,9 +135,10 @@ TEST(ParameterNameExpansion, ARepeatedParameterWarnsOnceAndTheLaterInIterationWi
     std::string const later = iterationOrder(keyword).back() == "els" ? "B" : "A";
     visitor.ExpandParameters(keyword, kSetWords);
     EXPECT_EQ(valueOf(keyword, "elset"), later);
-    EXPECT_EQ(texts(visitor.GetWarningList()),
-              std::vector<std::string>{at("ELSET") + "Repeated parameter: elset.  New definition of \"" +
-                                       later + "\" overrides previous setting."});
+    EXPECT_EQ(
+        texts(visitor.GetWarningList()),
+        std::vector<std::string>{at("ELSET") + "Repeated parameter: elset.  New definition of \"" +
+                                 later + "\" overrides previous setting."});
 }
 
 TEST(ParameterNameExpansion, ARepeatedParameterWithoutValueWarnsWithTheNameAsWritten) {
@@ -173,11 +177,12 @@ TEST(EnumeratedValues, FailuresReportAndKeepTheValueWhileABareParameterTurnsNone
     EXPECT_EQ(valueOf(keyword, "definition"), "S");
     EXPECT_EQ(valueOf(keyword, "time"), "XYZ");
     EXPECT_EQ(typeOf(keyword, "value"), inp_Types::inp_NONE);
-    EXPECT_EQ(texts(visitor.GetErrorList()),
-              (std::vector<std::string>{
-                  at("AMPLITUDE") + "Ambiguous value \"S\" for parameter \"definition\".",
-                  at("AMPLITUDE") + "Illegal value \"XYZ\" for parameter \"time\".  The value may be "
-                                    "misspelled, obsolete, or invalid."}));
+    EXPECT_EQ(
+        texts(visitor.GetErrorList()),
+        (std::vector<std::string>{
+            at("AMPLITUDE") + "Ambiguous value \"S\" for parameter \"definition\".",
+            at("AMPLITUDE") + "Illegal value \"XYZ\" for parameter \"time\".  The value may be "
+                              "misspelled, obsolete, or invalid."}));
 }
 
 TEST(EnumeratedValues, DigitWordsAreTypedAnewAndDataItemsAreWrittenBack) {
@@ -201,8 +206,9 @@ TEST(EnumeratedValues, DigitWordsAreTypedAnewAndDataItemsAreWrittenBack) {
 
 TEST(ValueChecks, DoubleAcceptsAnIntegerButDoubleOrLabelRefusesIt) {
     inp_KeywordExpansionVisitor visitor;
-    inp_Keyword keyword = keywordOf(
-        inp_kw_ShellSection, {{"offset", "3"}, {"bare", nullptr}, {"label", "TOP"}, {"real", "2.5"}});
+    inp_Keyword keyword =
+        keywordOf(inp_kw_ShellSection,
+                  {{"offset", "3"}, {"bare", nullptr}, {"label", "TOP"}, {"real", "2.5"}});
     EXPECT_TRUE(visitor.CheckDouble(keyword, "offset"));
     EXPECT_FALSE(visitor.CheckDoubleOrLabel(keyword, "offset"));
     EXPECT_TRUE(visitor.CheckDoubleOrLabel(keyword, "label"));
@@ -264,9 +270,9 @@ TEST(DataLineTruncation, OneLongLineRebuildsEveryLineWithOneWarning) {
     EXPECT_EQ(data.Cols(2), 16);
     EXPECT_EQ(data.AsStringVerbatim(2, 15), "16");
     EXPECT_EQ(texts(visitor.GetWarningList()),
-              std::vector<std::string>{at("ELSET") +
-                                       "One or more data lines contain more than 16 items (counting "
-                                       "those after trailing commas).  The extra items are deleted."});
+              std::vector<std::string>{
+                  at("ELSET") + "One or more data lines contain more than 16 items (counting "
+                                "those after trailing commas).  The extra items are deleted."});
 }
 
 TEST(DeferredAssemblyErrors, AFlatDeckDropsThemAndALaterPartReleasesThemInOrder) {

@@ -21,9 +21,9 @@ struct KeywordName {
 // Every keyword of the table that a deck may hold.
 std::vector<KeywordName> deckKeywords() {
     std::vector<KeywordName> keywords;
-#define INP_TEST_KEYWORD(camel, name, number)                              \
+#define INP_TEST_KEYWORD(camel, name, number)                                        \
     if (inp_kw_##camel != inp_kw_UndefinedKeyword && inp_kw_##camel != inp_kw_Eof && \
-        inp_kw_##camel != inp_kw_Model)                                    \
+        inp_kw_##camel != inp_kw_Model)                                              \
         keywords.push_back({inp_kw_##camel, name});
     INP_KEYWORDS(INP_TEST_KEYWORD)
 #undef INP_TEST_KEYWORD

@@ -15,14 +15,16 @@ struct EncryptedResult {
 };
 
 class ParserEncrypted : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
-        dir.Write("secret.plain", "** the author's note\n*MATERIAL, NAME=SECRET\n*DENSITY\n7800.\n\n*ELASTIC\n2.1e5, 0.3\n");
+        dir.Write("secret.plain",
+                  "** the author's note\n*MATERIAL, "
+                  "NAME=SECRET\n*DENSITY\n7800.\n\n*ELASTIC\n2.1e5, 0.3\n");
         inp_EncryptDeck(dir.Path("secret.plain"), dir.Path("secret.enc"), "opensesame");
     }
     EncryptedResult parseMain(std::string const& text, bool strictDecryption = true) {
-        inp_Parser parser(dir.Write("main.inp", text), dir.Directory(), cow_List<cow_String>(), "", strictDecryption,
-                          true, false);
+        inp_Parser parser(dir.Write("main.inp", text), dir.Directory(), cow_List<cow_String>(), "",
+                          strictDecryption, true, false);
         EncryptedResult r;
         r.keywords = parser.Parse(true);
         r.errors = parser.GetErrors();
@@ -35,7 +37,8 @@ protected:
 }  // namespace
 
 TEST_F(ParserEncrypted, RightPasswordGivesThePlainKeywordsMarkedEncrypted) {
-    EncryptedResult r = parseMain("*HEADING\nModel\n*INCLUDE, INPUT=secret.enc, PASSWORD=opensesame\n*STEP\n");
+    EncryptedResult r =
+        parseMain("*HEADING\nModel\n*INCLUDE, INPUT=secret.enc, PASSWORD=opensesame\n*STEP\n");
     ASSERT_TRUE(r.fatalErrors.IsEmpty());
     ASSERT_TRUE(r.errors.IsEmpty());
     ASSERT_EQ(r.keywords.Length(), 5);
@@ -44,7 +47,8 @@ TEST_F(ParserEncrypted, RightPasswordGivesThePlainKeywordsMarkedEncrypted) {
     inp_Keyword const& material = r.keywords.ConstGet(1);
     EXPECT_EQ(material.GetParameterAsString("name", ""), "SECRET");
     EXPECT_TRUE(material.IsEncrypted());
-    EXPECT_EQ(material.Comments().Last(), " the author's note");  // behind the plain marker comments
+    EXPECT_EQ(material.Comments().Last(),
+              " the author's note");  // behind the plain marker comments
     EXPECT_EQ(r.keywords.ConstGet(2).Data().AsStringVerbatim(0, 0), "7800.");
     EXPECT_EQ(r.keywords.ConstGet(2).Data().Rows(), 2);
     EXPECT_EQ(r.keywords.ConstGet(3).Data().AsString(0, 1), "0.3");
@@ -55,8 +59,9 @@ TEST_F(ParserEncrypted, WrongPasswordIsABadHeaderAndTheFileGivesNothing) {
     EncryptedResult r = parseMain("*NODE\n*INCLUDE, INPUT=secret.enc, PASSWORD=guess\n*STEP\n");
     ASSERT_EQ(r.fatalErrors.Length(), 1);
     EXPECT_EQ(r.fatalErrors.ConstGet(0), cow_String("Bad header. The encrypted input file, \"") +
-                                             dir.Path("secret.enc") + "\", is either corrupt or the password is "
-                                                                      "incorrect.");
+                                             dir.Path("secret.enc") +
+                                             "\", is either corrupt or the password is "
+                                             "incorrect.");
     ASSERT_EQ(r.keywords.Length(), 2);
     EXPECT_EQ(r.keywords.ConstGet(1).Keyword(), inp_kw_Step);
 }
@@ -64,8 +69,8 @@ TEST_F(ParserEncrypted, WrongPasswordIsABadHeaderAndTheFileGivesNothing) {
 TEST_F(ParserEncrypted, NoPasswordMeansThePasswordIsRequired) {
     EncryptedResult r = parseMain("*INCLUDE, INPUT=secret.enc\n*STEP\n");
     ASSERT_EQ(r.fatalErrors.Length(), 1);
-    EXPECT_EQ(r.fatalErrors.ConstGet(0), cow_String("The encrypted input file, \"") + dir.Path("secret.enc") +
-                                             "\", requires a password.");
+    EXPECT_EQ(r.fatalErrors.ConstGet(0), cow_String("The encrypted input file, \"") +
+                                             dir.Path("secret.enc") + "\", requires a password.");
     EXPECT_EQ(r.keywords.Length(), 1);
 }
 
@@ -77,7 +82,8 @@ TEST_F(ParserEncrypted, CorruptLineFailsStrictlyAndIsBlankOtherwise) {
 
     EncryptedResult strict = parseMain("*INCLUDE, INPUT=broken.enc, PASSWORD=opensesame\n");
     ASSERT_EQ(strict.errors.Length() + strict.fatalErrors.Length(), 1);
-    cow_String message = strict.errors.IsEmpty() ? strict.fatalErrors.ConstGet(0) : strict.errors.ConstGet(0);
+    cow_String message =
+        strict.errors.IsEmpty() ? strict.fatalErrors.ConstGet(0) : strict.errors.ConstGet(0);
     EXPECT_TRUE(message.StartsWith("The encrypted input file, \"")) << message.CStr();
     EXPECT_NE(message.Find("cannot be decrypted due to the following; "), -1);
 

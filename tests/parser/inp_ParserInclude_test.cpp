@@ -15,8 +15,9 @@ struct IncludeResult {
 };
 
 class ParserInclude : public ::testing::Test {
-protected:
-    IncludeResult parseMain(std::string const& text, bool strict = true, cow_String includePath = "") {
+  protected:
+    IncludeResult parseMain(std::string const& text, bool strict = true,
+                            cow_String includePath = "") {
         cow_String path = dir.Write("main.inp", text);
         inp_Parser parser(path, includePath, cow_List<cow_String>(), "", true, true, false);
         IncludeResult r;
@@ -27,7 +28,9 @@ protected:
         r.missing = parser.GetMissingIncludeFiles();
         return r;
     }
-    std::string include(std::string const& name) { return "*INCLUDE, INPUT=" + std::string(dir.Path(name).CStr()); }
+    std::string include(std::string const& name) {
+        return "*INCLUDE, INPUT=" + std::string(dir.Path(name).CStr());
+    }
 
     TempDeckDirectory dir;
 };
@@ -36,14 +39,16 @@ protected:
 
 TEST_F(ParserInclude, KeywordsAreSplicedInAndDataFlowsBothWays) {
     dir.Write("mesh.inp", "3, 0.\n** head of part\n*ELEMENT, TYPE=C3D8\n1, 1, 2\n");
-    IncludeResult r = parseMain("*NODE\n1, 0.\n2, 0.\n" + include("mesh.inp") + "\n2, 3, 4\n*STEP\n");
+    IncludeResult r =
+        parseMain("*NODE\n1, 0.\n2, 0.\n" + include("mesh.inp") + "\n2, 3, 4\n*STEP\n");
     ASSERT_EQ(r.keywords.Length(), 3);
     EXPECT_EQ(r.keywords.ConstGet(0).Data().Rows(), 3);  // the include's leading line joins *NODE
     inp_Keyword const& element = r.keywords.ConstGet(1);
     EXPECT_EQ(element.Keyword(), inp_kw_Element);
     EXPECT_EQ(element.FileName(), dir.Path("mesh.inp"));
     EXPECT_EQ(element.Comments().ConstGet(0), " head of part");
-    EXPECT_EQ(element.Data().Rows(), 2);  // the line behind *INCLUDE joins the last included keyword
+    EXPECT_EQ(element.Data().Rows(),
+              2);  // the line behind *INCLUDE joins the last included keyword
     EXPECT_EQ(r.included.Length(), 1);
     EXPECT_TRUE(r.errors.IsEmpty() && r.fatalErrors.IsEmpty());
 }
@@ -86,12 +91,14 @@ TEST_F(ParserInclude, MissingIncludeIsFatalWhenStrictAndListedEitherWay) {
 }
 
 TEST_F(ParserInclude, ParameterizedUnreadableAndCircularIncludes) {
-    IncludeResult parameterized = parseMain("*INCLUDE, INPUT=\"<mesh>\"\n*INCLUDE, INPUT=<mesh>\n*NODE\n");
+    IncludeResult parameterized =
+        parseMain("*INCLUDE, INPUT=\"<mesh>\"\n*INCLUDE, INPUT=<mesh>\n*NODE\n");
     ASSERT_EQ(parameterized.errors.Length(), 2);
     EXPECT_EQ(parameterized.errors.ConstGet(0),
               "Include file \"\"<mesh>\"\" name is parameterized and not substituted.");
     EXPECT_EQ(parameterized.errors.ConstGet(1),
-              "Problem when parsing keyword: INCLUDE     Invalid value \"<mesh>\" for parameter \"input\". The value "
+              "Problem when parsing keyword: INCLUDE     Invalid value \"<mesh>\" for parameter "
+              "\"input\". The value "
               "may be misspelled, obsolete, or invalid.");
     EXPECT_TRUE(parameterized.fatalErrors.IsEmpty());
     EXPECT_EQ(parameterized.keywords.Length(), 1);
@@ -105,8 +112,9 @@ TEST_F(ParserInclude, ParameterizedUnreadableAndCircularIncludes) {
     dir.Write("b.inp", "*ELEMENT\n" + include("main.inp") + "\n");
     IncludeResult circular = parseMain("*NODE\n" + include("b.inp") + "\n*STEP\n");
     ASSERT_EQ(circular.fatalErrors.Length(), 1);
-    EXPECT_EQ(circular.fatalErrors.ConstGet(0),
-              cow_String("Include file \"") + dir.Path("main.inp") + "\" has already been included.");
+    EXPECT_EQ(
+        circular.fatalErrors.ConstGet(0),
+        cow_String("Include file \"") + dir.Path("main.inp") + "\" has already been included.");
     EXPECT_EQ(circular.keywords.Length(), 3);  // what was read stays
 }
 
@@ -119,8 +127,10 @@ TEST_F(ParserInclude, DeckIncludingItselfByARelativeName) {
 
 TEST_F(ParserInclude, DeepChainOfAHundredIncludes) {
     for (int level = 1; level < 100; ++level) {
-        std::string next = level < 99 ? include("level" + std::to_string(level + 1) + ".inp") + "\n" : "";
-        dir.Write("level" + std::to_string(level) + ".inp", "*NSET, NSET=S" + std::to_string(level) + "\n" + next);
+        std::string next =
+            level < 99 ? include("level" + std::to_string(level + 1) + ".inp") + "\n" : "";
+        dir.Write("level" + std::to_string(level) + ".inp",
+                  "*NSET, NSET=S" + std::to_string(level) + "\n" + next);
     }
     IncludeResult r = parseMain(include("level1.inp") + "\n");
     EXPECT_EQ(r.keywords.Length(), 99);
@@ -132,7 +142,8 @@ TEST_F(ParserInclude, DeepChainOfAHundredIncludes) {
 // deck that included it; a failure of the *INCLUDE line points to that line.
 TEST_F(ParserInclude, FailuresCarryTheFileAndLineTheyConcern) {
     dir.Write("part.inp", "*NODE\n1, 0.\n*NOSUCH\n");
-    IncludeResult r = parseMain("*HEADING\n" + include("part.inp") + "\n*INCLUDE, INPUT=gone.inp\n");
+    IncludeResult r =
+        parseMain("*HEADING\n" + include("part.inp") + "\n*INCLUDE, INPUT=gone.inp\n");
     ASSERT_EQ(r.errors.Length(), 1);
     atr_Location const* inInclude = r.errors[0].Location();
     ASSERT_NE(inInclude, nullptr);

@@ -18,7 +18,8 @@ struct ParseResult {
     cow_List<cow_String> included, missing, skipped;
 };
 
-ParseResult parse(cow_String const& path, bool strict = true, bool bulk = true, cow_String includePath = "") {
+ParseResult parse(cow_String const& path, bool strict = true, bool bulk = true,
+                  cow_String includePath = "") {
     inp_Parser parser(path, includePath, cow_List<cow_String>(), cow_String(), true, bulk, false);
     ParseResult result;
     result.keywords = parser.Parse(strict);
@@ -32,7 +33,7 @@ ParseResult parse(cow_String const& path, bool strict = true, bool bulk = true, 
 }
 
 class ParserTest : public ::testing::Test {
-protected:
+  protected:
     ParseResult parseText(std::string const& text, bool strict = true, bool bulk = true) {
         return parse(dir.Write("deck.inp", text), strict, bulk);
     }
@@ -81,7 +82,8 @@ TEST_F(ParserLines, EmptyLinesAreRowsAndTitlesStayWhole) {
 }
 
 TEST_F(ParserLines, WithoutBulkOnlyTitlesKeepTheirLines) {
-    ParseResult r = parseText("** c\n*NODE, NSET=ALL\n1, 0., 0.\n*STEP\nStep one\n*STATIC\n1., 1.\n", true, false);
+    ParseResult r = parseText(
+        "** c\n*NODE, NSET=ALL\n1, 0., 0.\n*STEP\nStep one\n*STATIC\n1., 1.\n", true, false);
     ASSERT_EQ(r.keywords.Length(), 3);
     EXPECT_EQ(r.keywords.ConstGet(0).Data().Rows(), 0);
     EXPECT_TRUE(r.keywords.ConstGet(0).HasParameter("nset"));
@@ -124,7 +126,8 @@ TEST_F(ParserContinuation, KeywordOnAContinuationLine) {
     ParseResult strict = parseText(deck);
     ASSERT_EQ(strict.errors.Length(), 1);
     EXPECT_EQ(strict.errors.ConstGet(0),
-              "A keyword has been detected on what is supposed to be a continuation line. Please check that a "
+              "A keyword has been detected on what is supposed to be a continuation line. Please "
+              "check that a "
               "trailing comma has not been mistakenly placed in: *NSET, NSET=A,");
     ASSERT_EQ(strict.keywords.Length(), 1);  // recovery resumes at *NODE
     EXPECT_EQ(strict.keywords.ConstGet(0).Keyword(), inp_kw_Node);
@@ -138,7 +141,8 @@ TEST_F(ParserContinuation, KeywordOnAContinuationLine) {
 using ParserComments = ParserTest;
 
 TEST_F(ParserComments, OnlyCommentsDirectlyBeforeAKeywordAreKept) {
-    ParseResult r = parseText("** head\n*NODE\n1, 0.\n** between data\n2, 0.\n** after data\n*ELEMENT\n** at end\n");
+    ParseResult r = parseText(
+        "** head\n*NODE\n1, 0.\n** between data\n2, 0.\n** after data\n*ELEMENT\n** at end\n");
     ASSERT_EQ(r.keywords.Length(), 2);
     ASSERT_EQ(r.keywords.ConstGet(0).Comments().Length(), 1);
     EXPECT_EQ(r.keywords.ConstGet(0).Comments().ConstGet(0), " head");
@@ -149,7 +153,8 @@ TEST_F(ParserComments, OnlyCommentsDirectlyBeforeAKeywordAreKept) {
 using ParserParameters = ParserTest;
 
 TEST_F(ParserParameters, NamesFoldAndValuesAreTyped) {
-    ParseResult r = parseText("*NODE, Ref Node = 12, , ,NSET=\"p,q\", GENERATE, Scale=1.5, Two-Words=x\n");
+    ParseResult r =
+        parseText("*NODE, Ref Node = 12, , ,NSET=\"p,q\", GENERATE, Scale=1.5, Two-Words=x\n");
     inp_Keyword const& k = r.keywords.ConstGet(0);
     EXPECT_EQ(k.GetParameterAsInt("refnode", 0), 12);
     EXPECT_EQ(k.GetParameterAsString("nset", ""), "\"p,q\"");
@@ -162,29 +167,38 @@ TEST_F(ParserParameters, NamesFoldAndValuesAreTyped) {
 TEST_F(ParserParameters, RepeatedParameterWarnsAndTheLastWins) {
     ParseResult r = parseText("*NSET, NSET=A, NSET=B, NSET\n");
     EXPECT_EQ(r.keywords.ConstGet(0).Parameters().ConstGet("nset").Type(), inp_Types::inp_BOOLEAN);
-    std::string title = "in keyword *NSET, file \"" + std::string(dir.Path("deck.inp").CStr()) + "\", line 1: ";
+    std::string title =
+        "in keyword *NSET, file \"" + std::string(dir.Path("deck.inp").CStr()) + "\", line 1: ";
     ASSERT_EQ(r.warnings.Length(), 2);
     EXPECT_EQ(r.warnings.ConstGet(0),
-              cow_String((title + "Repeated parameter: nset.  New definition of \"B\" overrides previous setting.")
-                             .c_str()));
-    EXPECT_EQ(r.warnings.ConstGet(1),
-              cow_String((title + "Repeated parameter: nset.  New definition overrides previous setting.").c_str()));
+              cow_String(
+                  (title +
+                   "Repeated parameter: nset.  New definition of \"B\" overrides previous setting.")
+                      .c_str()));
+    EXPECT_EQ(
+        r.warnings.ConstGet(1),
+        cow_String((title + "Repeated parameter: nset.  New definition overrides previous setting.")
+                       .c_str()));
 }
 
 TEST_F(ParserParameters, BadParametersDropTheKeywordInAStrictParse) {
     ParseResult r = parseText(
-        "*NODE, 1a=2\n1\n*NODE, NSET=a=b\n*NODE, NSET=\"open\n*NODE, \"a=b\"\n*NODE, a.b\n*ELEMENT\n");
+        "*NODE, 1a=2\n1\n*NODE, NSET=a=b\n*NODE, NSET=\"open\n*NODE, \"a=b\"\n*NODE, "
+        "a.b\n*ELEMENT\n");
     ASSERT_EQ(r.keywords.Length(), 1);
     EXPECT_EQ(r.keywords.ConstGet(0).Keyword(), inp_kw_Element);
     ASSERT_EQ(r.errors.Length(), 5);
     EXPECT_EQ(r.errors.ConstGet(0),
-              "Problem when parsing keyword: NODE     Invalid parameter: 1a=2. The parameter may be misspelled, "
+              "Problem when parsing keyword: NODE     Invalid parameter: 1a=2. The parameter may "
+              "be misspelled, "
               "obsolete, or invalid.");
     EXPECT_EQ(r.errors.ConstGet(1),
-              "Problem when parsing keyword: NODE     Invalid value \"a=b\" for parameter \"nset\". The value may "
+              "Problem when parsing keyword: NODE     Invalid value \"a=b\" for parameter "
+              "\"nset\". The value may "
               "be misspelled, obsolete, or invalid.");
     EXPECT_EQ(r.errors.ConstGet(2),
-              "Problem when parsing keyword: NODE     Missing end quote in parameter data \"NSET=\"open\".");
+              "Problem when parsing keyword: NODE     Missing end quote in parameter data "
+              "\"NSET=\"open\".");
 }
 
 TEST_F(ParserParameters, LenientParseKeepsNamesAsWrittenButNotUnclosedQuotes) {
@@ -213,7 +227,8 @@ TEST_F(ParserErrors, MessageListsStopAfter25WithOneNote) {
     for (int k = 0; k < 30; ++k) deck += "*BAD" + std::to_string(k) + "\n";
     ParseResult r = parseText(deck);
     ASSERT_EQ(r.errors.Length(), 27);
-    EXPECT_EQ(r.errors.ConstGet(25), "Unknown keyword \"bad25\". The keyword may be misspelled, obsolete, or invalid.");
+    EXPECT_EQ(r.errors.ConstGet(25),
+              "Unknown keyword \"bad25\". The keyword may be misspelled, obsolete, or invalid.");
     EXPECT_EQ(r.errors.ConstGet(26), "No more (non-fatal) errors will be reported ...");
 }
 
@@ -223,7 +238,8 @@ TEST_F(ParserErrors, AFileThatCannotBeOpenedIsTheOnlyThrow) {
         parser.Parse(true);
         FAIL();
     } catch (nex_PrimException<atr_String, 1> const& e) {
-        EXPECT_EQ(e.UserReport(), cow_String("Could not open file ") + dir.Path("missing.inp") + "\n");
+        EXPECT_EQ(e.UserReport(),
+                  cow_String("Could not open file ") + dir.Path("missing.inp") + "\n");
     }
 }
 

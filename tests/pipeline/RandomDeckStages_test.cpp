@@ -52,10 +52,11 @@ class RandomDeckWriter {
             int count = 0;
             while (enumeration.words[count]) ++count;
             std::string word = enumeration.words[below(count)];
-            if (chance(20) && word.size() > 1) word.resize(1 + below(static_cast<int>(word.size())));
+            if (chance(20) && word.size() > 1)
+                word.resize(1 + below(static_cast<int>(word.size())));
             return word;
         }
-        static char const* const values[] = {"A", "Set-1", "\"quoted name\"", "12", "-3.5e2",
+        static char const* const values[] = {"A", "Set-1", "\"quoted name\"", "12",    "-3.5e2",
                                              "",  "1.0d0", "<param>",         "x y z", "None"};
         return values[below(10)];
     }
@@ -65,16 +66,19 @@ class RandomDeckWriter {
         for (inp_WordTable word = row.parameters; *word; ++word) words.emplace_back(*word);
         int const count = below(4);
         for (int i = 0; i < count; ++i) {
-            std::string name = words.empty() || chance(10) ? "bogus" : words[below(static_cast<int>(words.size()))];
-            if (chance(25) && name.size() > 2) name.resize(2 + below(static_cast<int>(name.size()) - 1));
+            std::string name = words.empty() || chance(10)
+                                   ? "bogus"
+                                   : words[below(static_cast<int>(words.size()))];
+            if (chance(25) && name.size() > 2)
+                name.resize(2 + below(static_cast<int>(name.size()) - 1));
             deck += ", " + name;
             if (chance(80)) deck += "=" + parameterValue(row, name);
         }
     }
 
     void appendDataLines(std::string& deck) {
-        static char const* const items[] = {"1", "2.5", "-7", "1e3", "A", "", " ", "SET-1",
-                                            "1.5.5", "'q'", "999999999999", "0"};
+        static char const* const items[] = {"1",     "2.5",   "-7",  "1e3",          "A", "", " ",
+                                            "SET-1", "1.5.5", "'q'", "999999999999", "0"};
         int const lines = chance(40) ? 0 : below(6);
         for (int line = 0; line < lines; ++line) {
             int const count = 1 + below(20);
@@ -98,7 +102,9 @@ class RandomDeckWriter {
     std::mt19937 m_random;
 };
 
-wip_WIP& sink() { return thr_ThreadSingleton<wip_WIP>::Instance(); }
+wip_WIP& sink() {
+    return thr_ThreadSingleton<wip_WIP>::Instance();
+}
 
 TEST(RandomDeckStages, RandomDecksGoThroughParseExpansionAndOrganizationWithDiagnosticsOnly) {
     TempDeckDirectory dir;
@@ -113,7 +119,8 @@ TEST(RandomDeckStages, RandomDecksGoThroughParseExpansionAndOrganizationWithDiag
             input.Parse(path);
             input.ExpandKeywords();
             input.Reorganize();
-        }) << "seed " << seed;
+        }) << "seed "
+           << seed;
         for (inp_Keyword const& keyword : input.Keywords())
             EXPECT_NE(keyword.Keyword(), inp_kw_UndefinedKeyword) << "seed " << seed;
         if (!sink().Diagnostics().empty()) ++decksWithDiagnostics;

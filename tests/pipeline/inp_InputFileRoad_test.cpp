@@ -13,7 +13,9 @@
 
 namespace {
 
-wip_WIP& sink() { return thr_ThreadSingleton<wip_WIP>::Instance(); }
+wip_WIP& sink() {
+    return thr_ThreadSingleton<wip_WIP>::Instance();
+}
 
 class InputFileRoad : public testing::Test {
   protected:
@@ -43,8 +45,8 @@ TEST_F(InputFileRoad, RunsThroughTheLastStageAskedForAndTellsEachStage) {
                                      inp_InputFile::RunRule::StopAfterErrors,
                                      [&](inp_Stage stage) { seen.push_back(stage); });
     EXPECT_EQ(last, inp_Stage::Organize);
-    EXPECT_EQ(seen, (std::vector<inp_Stage>{inp_Stage::Parse, inp_Stage::Expand,
-                                            inp_Stage::Organize}));
+    EXPECT_EQ(seen,
+              (std::vector<inp_Stage>{inp_Stage::Parse, inp_Stage::Expand, inp_Stage::Organize}));
     ASSERT_EQ(input.Keywords().Length(), 3);  // *NODE, *STEP holding *STATIC, *END STEP
     EXPECT_EQ(input.Keywords()[1].Suboptions().Length(), 1);
 

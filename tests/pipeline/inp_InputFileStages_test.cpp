@@ -13,7 +13,9 @@
 
 namespace {
 
-wip_WIP& sink() { return thr_ThreadSingleton<wip_WIP>::Instance(); }
+wip_WIP& sink() {
+    return thr_ThreadSingleton<wip_WIP>::Instance();
+}
 
 class InputFileStages : public ::testing::Test {
   protected:
@@ -95,8 +97,9 @@ TEST_F(InputFileStages, AnUnnamedAssemblyIsReportedAndStillOrganized) {
 }
 
 TEST_F(InputFileStages, RigidSurfaceInAnExplicitJobIsRefusedAndBarsThePartModel) {
-    expand("*RIGID SURFACE, NAME=R, TYPE=CYLINDER, REF NODE=1\n"
-           "*STEP\n*DYNAMIC, EXPLICIT\n, 1.0\n*END STEP\n");
+    expand(
+        "*RIGID SURFACE, NAME=R, TYPE=CYLINDER, REF NODE=1\n"
+        "*STEP\n*DYNAMIC, EXPLICIT\n, 1.0\n*END STEP\n");
     EXPECT_NE(diagnostics().find("the *RIGID SURFACE option is not supported in Fenrik/Explicit; "
                                  "use the *SURFACE option in conjunction with the *RIGID BODY "
                                  "option instead.\n"),

@@ -11,7 +11,9 @@
 
 namespace {
 
-wip_WIP& sink() { return thr_ThreadSingleton<wip_WIP>::Instance(); }
+wip_WIP& sink() {
+    return thr_ThreadSingleton<wip_WIP>::Instance();
+}
 
 }  // namespace
 
@@ -70,7 +72,8 @@ TEST(InputFileKeywords, DiscardEmptyKeywordsRemovesBlankedRecordsInOrder) {
 TEST(InputFileKeywords, PrintWritesTheDeckBackAndItReadsAgain) {
     TempDeckDirectory dir;
     inp_InputFile input;
-    input.Parse(dir.Write("deck.inp", "*Material, Name=Steel\n*Density\n7800.\n*NSET, NSET=A\n1, 2\n"));
+    input.Parse(
+        dir.Write("deck.inp", "*Material, Name=Steel\n*Density\n7800.\n*NSET, NSET=A\n1, 2\n"));
     aio_ostringstream out;
     input.Print(out);
     EXPECT_EQ(out.Str(), "*material, name=Steel\n*density\n7800.\n*nset, nset=A\n1, 2\n");

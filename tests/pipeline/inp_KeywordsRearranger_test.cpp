@@ -48,7 +48,8 @@ std::string rearranged(inp_KeywordsRearranger& rearranger, cow_List<inp_Keyword>
 std::vector<std::string> level0Errors() {
     std::vector<std::string> texts;
     for (wip_Diagnostic const& diagnostic : sink().Diagnostics())
-        if (diagnostic.IsError() && diagnostic.level == 0) texts.emplace_back(diagnostic.text.View());
+        if (diagnostic.IsError() && diagnostic.level == 0)
+            texts.emplace_back(diagnostic.text.View());
     return texts;
 }
 

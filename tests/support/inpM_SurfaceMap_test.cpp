@@ -52,8 +52,8 @@ TEST(InpMSurfaceMapSharing, CopiesShareSurfacesUntilWritten) {
     EXPECT_EQ(nodesOf(*original.ConstGetPartInstanceSurface("I1", "A")), (std::vector<int>{1}));
     EXPECT_EQ(nodesOf(*copy.ConstGetPartInstanceSurface("I1", "A")), (std::vector<int>{9}));
     EXPECT_FALSE(original.IsMemberAssemblyInstanceSurface("NEW"));
-    EXPECT_TRUE(copy.ConstGetPartInstanceSurface("I1", "B")
-                    .SharesWith(original.ConstGetPartInstanceSurface("I1", "B")));
+    EXPECT_TRUE(copy.ConstGetPartInstanceSurface("I1", "B").SharesWith(
+        original.ConstGetPartInstanceSurface("I1", "B")));
 }
 
 TEST(InpMSurfaceMapInsert, AWholeLevelReplacesTheInstancesSurfaces) {
@@ -89,8 +89,8 @@ TEST(InpMSurfaceMapMerge, TakesEverySurfaceAndOtherWinsOnACommonName) {
 
     inpM_SurfaceMap empty;
     empty.Merge(other);
-    EXPECT_TRUE(empty.ConstGetPartInstanceSurface("I2", "C")
-                    .SharesWith(other.ConstGetPartInstanceSurface("I2", "C")));
+    EXPECT_TRUE(empty.ConstGetPartInstanceSurface("I2", "C").SharesWith(
+        other.ConstGetPartInstanceSurface("I2", "C")));
     map.Merge(map);
     EXPECT_EQ(map.ConstGetPartInstanceSurfaceMap("I1").Size(), 2);
 }

@@ -72,8 +72,8 @@ TEST(InpMSurfaceHandle, WriteThroughCopyKeepsFormAndDoesNotShowInOriginal) {
 }
 
 TEST(InpMSurfaceWrongForm, EachFormAnswersTheOtherFormsQuestionWithAnEmptyMap) {
-    for (auto type : {inpM_ElementFaceIdSurfaceType, inpM_NodeAreaSurfaceType,
-                      inpM_AnalyticalSurfaceType}) {
+    for (auto type :
+         {inpM_ElementFaceIdSurfaceType, inpM_NodeAreaSurfaceType, inpM_AnalyticalSurfaceType}) {
         EXPECT_EQ(CreateSurface(type)->Type(), type);
     }
     EXPECT_THROW(CreateSurface(static_cast<inpM_SurfaceTypes>(7)), ZELBasAssertException);
