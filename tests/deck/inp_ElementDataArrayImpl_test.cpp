@@ -9,6 +9,7 @@
 #include "deck/inp_Exceptions.h"
 #include "support/ZELBasException.h"
 #include "tests/common/FailureText.h"
+#include "tests/common/IntRows.h"
 
 namespace {
 
@@ -22,23 +23,6 @@ cow_List<int> nodesFrom(int first, int count) {
     cow_List<int> nodes;
     for (int k = 0; k < count; ++k) nodes.Append(first + k);
     return nodes;
-}
-
-std::vector<int> rowOf(inp_DataArrayImpl& data, int i) {
-    std::vector<int> row;
-    for (int j = 0; j < data.Cols(i); ++j) row.push_back(data.AsInt(i, j));
-    return row;
-}
-
-std::vector<int> range(int first, int count) {
-    std::vector<int> values;
-    for (int k = 0; k < count; ++k) values.push_back(first + k);
-    return values;
-}
-
-std::vector<int> operator+(std::vector<int> a, std::vector<int> const& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
 }
 
 constexpr char kAppendMessage[] =

@@ -5,27 +5,7 @@
 #include <vector>
 
 #include "mesh/inp_MapInt2Element.h"
-
-namespace {
-
-std::vector<int> rowOf(inp_DataArrayImpl& data, int i) {
-    std::vector<int> row;
-    for (int j = 0; j < data.Cols(i); ++j) row.push_back(data.AsInt(i, j));
-    return row;
-}
-
-std::vector<int> range(int first, int count) {
-    std::vector<int> values;
-    for (int k = 0; k < count; ++k) values.push_back(first + k);
-    return values;
-}
-
-std::vector<int> operator+(std::vector<int> a, std::vector<int> const& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
-
-}  // namespace
+#include "tests/common/IntRows.h"
 
 TEST(ElementFromMap, ListedLabelsInListOrderMissingOnesSkipped) {
     inp_MapInt2Element elements;
