@@ -26,3 +26,8 @@ cow_String inp_LocateDeckFile(cow_String const& name, cow_String const& includeD
     ZELBasUtlFilePath const inIncludeDirectory(includeDirectory, bare);
     return inIncludeDirectory.Exists() ? inIncludeDirectory.PathName() : cow_String();
 }
+
+void inp_ListMissingDeckFile(cow_List<cow_String>& missing, cow_String const& name) {
+    if (name == "None") return;
+    missing.AppendUnlessMember(ZELBasUtlFilePath(inp_WithoutQuotes(name)).FileName());
+}

@@ -337,10 +337,7 @@ void inp_KeywordExpansionVisitor::ReadInputParameter(cow_String const& path, inp
     cow_String const found = inp_LocateDeckFile(path, m_includePath);
     if (found.IsEmpty()) {
         error(keyword, atr("Input file \"%s\" does not exist.", path));
-        // "None" is what a parameter without a usable value reads as.
-        if (path != "None")
-            m_missingIncludedFiles.AppendUnlessMember(
-                ZELBasUtlFilePath(inp_WithoutQuotes(path)).FileName());
+        inp_ListMissingDeckFile(m_missingIncludedFiles, path);
         return;
     }
     ZELBasUtlFilePath const file(found);

@@ -54,9 +54,7 @@ cow_List<inp_Keyword> inp_Parser::IncludeFile(inp_Keyword const& include, bool s
 
     cow_String found = inp_LocateDeckFile(name, m_includePath);
     if (found.IsEmpty()) {
-        // "None" is what a value of no type reads as in a lenient parse.
-        if (name != "None")
-            m_missingIncludeFiles.AppendUnlessMember(ZELBasUtlFilePath(unquoted).FileName());
+        inp_ListMissingDeckFile(m_missingIncludeFiles, name);
         throw inp_MissingIncludeFileException(m_lineNumber, m_fileName, name);
     }
     ZELBasUtlFilePath path(found);

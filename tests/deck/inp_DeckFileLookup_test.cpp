@@ -85,3 +85,16 @@ TEST_F(DeckFileLookup, NothingFoundIsEmptyWhileADirectoryCountsAsFound) {
     fs::create_directories(inWork("folder.inp"));
     EXPECT_EQ(inp_LocateDeckFile("folder.inp", ""), "folder.inp");
 }
+
+// A missing file is listed once, by its last component and without quotes;
+// "None" (no usable value) is no file.
+TEST(DeckFileMissingList, ListsEachFileNameOnceAndNeverNone) {
+    cow_List<cow_String> missing;
+    inp_ListMissingDeckFile(missing, "\"sub dir/a b.inp\"");
+    inp_ListMissingDeckFile(missing, "/elsewhere/a b.inp");
+    inp_ListMissingDeckFile(missing, "None");
+    inp_ListMissingDeckFile(missing, "c.dat");
+    ASSERT_EQ(missing.Length(), 2);
+    EXPECT_EQ(missing[0], "a b.inp");
+    EXPECT_EQ(missing[1], "c.dat");
+}
