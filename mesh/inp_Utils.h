@@ -13,7 +13,9 @@
 #include "deck/inp_QuotedText.h"
 #include "support/atr_String.h"
 #include "support/cow_List.h"
+#include "support/inpM_OmiSet.h"
 
+class inp_DataArray;
 class inp_Keyword;
 
 class inp_Utils {
@@ -89,4 +91,27 @@ class inp_Utils {
     // The same for labels, except that the first label stands twice: 7, 8
     // give "7, 7, 8". Messages and the tests of their readers rely on it.
     static atr_String MessageWithItems(cow_String const& text, cow_List<int> const& items);
+
+    // -- generated id ranges (mesh/inp_SetRanges.cpp) -----------------------------
+    // A row is start, end and an optional increment (0 or none counts as 1);
+    // a bad row adds its message, which names `keyword`, to `errors` and
+    // yields nothing. Empty fields are passed over. The sorted forms unite
+    // the rows, the unsorted ones concatenate them in order; the scoped forms
+    // take "instance.id" for start and end and give "id" or "instance.id".
+    static inpM_OmiSet GenerateSetRow(cow_List<int> const& values, cow_String const& keyword,
+                                      cow_List<atr_String>& errors);
+    static cow_List<int> GenerateUnsortedSetRow(cow_List<int> const& values,
+                                                cow_String const& keyword,
+                                                cow_List<atr_String>& errors);
+    static inpM_OmiSet GenerateSetIds(inp_DataArray const& data, cow_String const& keyword,
+                                      cow_List<atr_String>& errors);
+    static cow_List<int> GenerateUnsortedSetIds(inp_DataArray const& data,
+                                                cow_String const& keyword,
+                                                cow_List<atr_String>& errors);
+    static cow_List<cow_String> GenerateScopedIds(inp_DataArray const& data,
+                                                  cow_String const& keyword,
+                                                  cow_List<atr_String>& errors);
+    static cow_List<cow_String> GenerateUnsortedScopedIds(inp_DataArray const& data,
+                                                          cow_String const& keyword,
+                                                          cow_List<atr_String>& errors);
 };
