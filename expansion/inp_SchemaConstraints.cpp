@@ -15,10 +15,13 @@ constexpr char const* kWeightingMethodWords[] = {"UNIFORM", "LINEAR", "QUADRATIC
                                                  nullptr};
 
 // *ADJUST
-constexpr char const* kAdjustWords[] = {"nodeset", "surface", nullptr};
+// `orientation` names the local axes of the adjusted nodes; an instance moved
+// by the transformation gets one made for it.
+constexpr char const* kAdjustWords[] = {"nodeset", "orientation", "surface", nullptr};
 
 // *CAVITY DEFINITION
-constexpr char const* kCavityDefinitionWords[] = {"ambienttemp", "name", nullptr};
+// With `setproperty` only the first item of a data line names a surface.
+constexpr char const* kCavityDefinitionWords[] = {"ambienttemp", "name", "setproperty", nullptr};
 
 // *CONSTRAINT CONTROLS
 constexpr char const* kConstraintControlsWords[] = {"nochecks", "print", nullptr};

@@ -28,6 +28,8 @@ constexpr char const* kContactClearanceWords[] = {
 constexpr inp_SchemaEnum kContactClearanceEnums[] = {{"adjust", inp_wordsNoYes}};
 
 // *CONTACT CONTROLS
+// `nset` names a node set the controls refer to; no other word begins with
+// n, so its place changes no abbreviation.
 constexpr char const* kContactControlsWords[] = {"absolutepenetrationtolerance",
                                                  "allsdtol",
                                                  "approach",
@@ -47,6 +49,7 @@ constexpr char const* kContactControlsWords[] = {"absolutepenetrationtolerance",
                                                  "lagrangemultiplier",
                                                  "master",
                                                  "maxchp",
+                                                 "nset",
                                                  "perrmx",
                                                  "perturbationtangentscalefactor",
                                                  "pressuredependentperturbation",

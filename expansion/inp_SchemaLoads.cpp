@@ -7,7 +7,7 @@
 namespace {
 
 // Loads that take no more than an amplitude and the choice of op:
-// *CECHARGE, *CECURRENT, *CFLOW, *CFLUX, *CRADIATE, *DECHARGE, *DECURRENT, *DFLOW, *DFLUX,
+// *CECHARGE, *CECURRENT, *CFLUX, *CRADIATE, *DECHARGE, *DECURRENT, *DFLOW, *DFLUX,
 // *DSECHARGE, *DSECURRENT, *DSFLOW, *DSFLUX, *FLOW, *RADIATE, *SFLOW, *SLOAD, *SRADIATE,
 // *TRANSPORT VELOCITY
 constexpr char const* kAmplitudeOpWords[] = {"amplitude", "op", nullptr};
@@ -44,6 +44,13 @@ constexpr inp_SchemaEnum kBoundaryEnums[] = {{"blocking", inp_wordsNoYes},
 constexpr char const* kCapacityWords[] = {"type", nullptr};
 constexpr char const* kCapacityTypeWords[] = {"POLYNOMIAL", "TABULAR", nullptr};
 constexpr inp_SchemaEnum kCapacityEnums[] = {{"type", kCapacityTypeWords}};
+
+// *CFLOW
+// A flow at a phantom edge names the edge's second node in its data, as a
+// phantom *BOUNDARY does; the two take the same words.
+constexpr char const* kCflowWords[] = {"amplitude", "op", "phantom", nullptr};
+constexpr inp_SchemaEnum kCflowEnums[] = {{"op", inp_wordsModNew},
+    {"phantom", kBoundaryPhantomWords}};
 
 // *CLOAD
 constexpr char const* kCloadWords[] = {"amplitude", "cyclicmode", "follower", "loadcase", "op",
@@ -103,11 +110,13 @@ constexpr char const* kMassFlowRateWords[] = {"amplitude", "input", "op", nullpt
 constexpr inp_SchemaEnum kMassFlowRateEnums[] = {{"op", inp_wordsModNew}};
 
 // *MOTION
-constexpr char const* kMotionWords[] = {"amplitude", "op", "type", nullptr};
+// With `element` the data lines name elements rather than nodes.
+constexpr char const* kMotionWords[] = {"amplitude", "element", "op", "type", nullptr};
 constexpr inp_SchemaEnum kMotionEnums[] = {{"op", inp_wordsModNew}};
 
 // *NODAL ENERGY RATE
-constexpr char const* kNodalEnergyRateWords[] = {"input", nullptr};
+// With `generate` a data line gives a first node, a last node and an increment.
+constexpr char const* kNodalEnergyRateWords[] = {"generate", "input", nullptr};
 
 // *PRESSURE STRESS
 constexpr char const* kPressureStressWords[] = {"amplitude", "binc", "bstep", "einc", "estep",
@@ -118,8 +127,8 @@ constexpr inp_SchemaEnum kPressureStressEnums[] = {{"op", inp_wordsModNew}};
 constexpr char const* kRadiationSymmetryWords[] = {"name", nullptr};
 
 // *RADIATION VIEWFACTOR
-constexpr char const* kRadiationViewfactorWords[] = {"blocking", "cavity", "infinity", "range",
-    nullptr};
+constexpr char const* kRadiationViewfactorWords[] = {"blocking", "cavity", "infinity", "nset",
+    "range", nullptr};
 
 // *RATIOS
 constexpr char const* kRatiosWords[] = {"dependencies", nullptr};
@@ -144,7 +153,7 @@ constexpr inp_SchemaRow kRows[] = {
     {inp_kw_Cecharge, inp_SchemaKind::Row, kAmplitudeOpWords, kAmplitudeOpEnums},
     {inp_kw_Cecurrent, inp_SchemaKind::Row, kAmplitudeOpWords, kAmplitudeOpEnums},
     {inp_kw_Cfilm, inp_SchemaKind::Row, kFilmAmplitudeOpWords, kFilmAmplitudeOpEnums},
-    {inp_kw_Cflow, inp_SchemaKind::Row, kAmplitudeOpWords, kAmplitudeOpEnums},
+    {inp_kw_Cflow, inp_SchemaKind::Row, kCflowWords, kCflowEnums},
     {inp_kw_Cflux, inp_SchemaKind::Row, kAmplitudeOpWords, kAmplitudeOpEnums},
     {inp_kw_Cload, inp_SchemaKind::Row, kCloadWords, kCloadEnums},
     {inp_kw_Cradiate, inp_SchemaKind::Row, kAmplitudeOpWords, kAmplitudeOpEnums},

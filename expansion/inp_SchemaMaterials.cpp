@@ -306,7 +306,9 @@ constexpr char const* kHypoelasticWords[] = {"user", nullptr};
 
 // *JOINTED MATERIAL
 // `direction` takes a joint number or BULK: not an enumeration.
-constexpr char const* kJointedMaterialWords[] = {"dependencies", "direction", nullptr};
+// `jointdirection` names the orientation that gives the joint directions.
+constexpr char const* kJointedMaterialWords[] = {"dependencies", "direction", "jointdirection",
+                                                 nullptr};
 
 // *KAPPA
 constexpr char const* kKappaWords[] = {"dependencies", "type", nullptr};

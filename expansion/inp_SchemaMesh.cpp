@@ -60,7 +60,10 @@ constexpr char const* kDistributionTableWords[] = {"name", nullptr};
 constexpr char const* kDragChainWords[] = {"elset", nullptr};
 
 // *ELCOPY
-constexpr char const* kElcopyWords[] = {"elementshift", "newset", "oldset", "shiftnodes", nullptr};
+// With `reflect` the copies are mirror images, their nodes put in order by
+// the reflection table. Only its presence counts, so it takes any value.
+constexpr char const* kElcopyWords[] = {"elementshift", "newset",     "oldset",
+                                        "reflect",      "shiftnodes", nullptr};
 
 // *ELEMENT
 constexpr char const* kElementWords[] = {

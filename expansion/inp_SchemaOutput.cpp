@@ -153,11 +153,12 @@ constexpr inp_SchemaEnum kPrintEnums[] = {{"allke", inp_wordsNoYes}, {"contact",
     {"allvd", inp_wordsNoYes}, {"allfc", inp_wordsNoYes}, {"alldc", inp_wordsNoYes},
     {"allihe", inp_wordsNoYes}, {"allhf", inp_wordsNoYes}};
 
-// *RADIATION FILE
-constexpr char const* kRadiationFileWords[] = {"cavity", "frequency", nullptr};
-
-// *RADIATION OUTPUT
-constexpr char const* kRadiationOutputWords[] = {"cavity", "variable", nullptr};
+// *RADIATION FILE, *RADIATION OUTPUT: output for a cavity, an element set or
+// a surface.
+constexpr char const* kRadiationFileWords[] = {"cavity", "elset", "frequency", "surface",
+    nullptr};
+constexpr char const* kRadiationOutputWords[] = {"cavity", "elset", "surface", "variable",
+    nullptr};
 constexpr inp_SchemaEnum kRadiationOutputEnums[] = {{"variable", inp_wordsAllPreselect}};
 
 // *RADIATION PRINT

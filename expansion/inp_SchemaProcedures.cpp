@@ -259,6 +259,10 @@ constexpr char const* kSteadyStateTransportWords[] = {"allsdtol", "continue", "f
 constexpr inp_SchemaEnum kSteadyStateTransportEnums[] = {{"continue", inp_wordsNoYes},
     {"inertia", inp_wordsNoYes}};
 
+// *SUBCYCLING
+// The element set whose elements take increments of their own.
+constexpr char const* kSubcyclingWords[] = {"elset", nullptr};
+
 // *TURBULENCE MODEL
 constexpr char const* kTurbulenceModelWords[] = {"type", nullptr};
 
@@ -349,7 +353,7 @@ constexpr inp_SchemaRow kRows[] = {
      kSteadyStateDynamicsWords, kSteadyStateDynamicsEnums},
     {inp_kw_SteadyStateTransport, inp_SchemaKind::Row,
      kSteadyStateTransportWords, kSteadyStateTransportEnums},
-    {inp_kw_Subcycling, inp_SchemaKind::Row, inp_wordsEmpty, {}},
+    {inp_kw_Subcycling, inp_SchemaKind::Row, kSubcyclingWords, {}},
     {inp_kw_TransportEquationSolver, inp_SchemaKind::Row,
      kEquationSolverWords, {}},
     {inp_kw_TurbulenceEquationSolver, inp_SchemaKind::Row,

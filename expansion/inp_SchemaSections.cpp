@@ -19,9 +19,11 @@ constexpr char const* kBeamAddedInertiaWords[] = {"alpha", "composite", nullptr}
 constexpr char const* kBeamFluidInertiaWords[] = {"full", nullptr};
 
 // *BEAM GENERAL SECTION
+// With `taper` the first direction of the section stands one data line lower.
 constexpr char const* kBeamGeneralSectionWords[] = {"density", "dependencies", "elset",
                                                     "lumped",  "poisson",      "rotaryinertia",
-                                                    "section", "zero",         nullptr};
+                                                    "section", "taper",        "zero",
+                                                    nullptr};
 // The library shapes of *BEAM SECTION except ELBOW, which only elbow elements
 // take; GENERAL, MESHED and NONLINEARGENERAL give the section by its properties.
 constexpr char const* kBeamGeneralSectionShapes[] = {
@@ -64,7 +66,8 @@ constexpr char const* kDashpotWords[] = {"dependencies", "elset", "nonlinear",
                                          "orientation",  "rtol",  nullptr};
 
 // *DISCRETE SECTION
-constexpr char const* kDiscreteSectionWords[] = {"alpha", "density", "elset", "shape", nullptr};
+constexpr char const* kDiscreteSectionWords[] = {"alpha", "density", "elset", "orientation",
+                                                 "shape", nullptr};
 
 // *EPJOINT
 constexpr char const* kEpjointWords[] = {"elset", "orientation", nullptr};
@@ -138,16 +141,21 @@ constexpr char const* kM2Words[] = {"dependencies", "elastic", "extrapolation", 
 constexpr inp_SchemaEnum kM2Enums[] = {{"extrapolation", kExtrapolationWords}};
 
 // *MASS
-constexpr char const* kMassWords[] = {"alpha", "composite", "elset", "type", nullptr};
+constexpr char const* kMassWords[] = {"alpha", "composite", "elset", "orientation", "type",
+                                      nullptr};
 constexpr char const* kMassTypeWords[] = {"ANISOTROPIC", "ISOTROPIC", nullptr};
 constexpr inp_SchemaEnum kMassEnums[] = {{"type", kMassTypeWords}};
 
 // *MEMBRANE SECTION
+// `membranethickness` names a distribution of thicknesses. It stands behind
+// `material`, so that a bare M keeps meaning the material.
 constexpr char const* kMembraneSectionWords[] = {
-    "controls", "elset", "material", "nodalthickness", "orientation", "poisson", nullptr};
+    "controls", "elset", "material", "membranethickness", "nodalthickness", "orientation",
+    "poisson", nullptr};
 
 // *NONSTRUCTURAL MASS
-constexpr char const* kNonStructuralMassWords[] = {"distribution", "elset", "units", nullptr};
+constexpr char const* kNonStructuralMassWords[] = {"distribution", "elset", "surface", "units",
+                                                   nullptr};
 constexpr char const* kNonStructuralMassDistributions[] = {"MASSPROPORTIONAL", "VOLUMEPROPORTIONAL",
                                                            nullptr};
 constexpr char const* kNonStructuralMassUnits[] = {"MASSPERAREA", "MASSPERLENGTH", "MASSPERVOLUME",
@@ -197,7 +205,8 @@ constexpr inp_SchemaEnum kShellSectionEnums[] = {{"sectionintegration", kSection
                                                  {"stackdirection", inp_wordsStackDirection}};
 
 // *SLIDE LINE
-constexpr char const* kSlideLineWords[] = {"elset", "smooth", "type", nullptr};
+// With `generate` the data lines give node ranges: first, last and step.
+constexpr char const* kSlideLineWords[] = {"elset", "generate", "smooth", "type", nullptr};
 
 // *SOLID SECTION
 constexpr char const* kSolidSectionWords[] = {
