@@ -337,13 +337,14 @@ inpM_SetHandle inp_SetVisitor::readAssemblyIdsAndSetNames(inpM_SetMap const& set
             cow_List<cow_String> const pieces = inp_Utils::SplitScopedSet(value);
             int const n = pieces.Length();
             if (n == 1) {
+                // A number that is no label (ten digits, say) names no set:
+                // it is missing like a name found nowhere.
+                bool const name = !inp_Utils::IsId(value);
                 if (data.Type(i, j) == inp_Types::inp_INTEGER) {
                     ids.Append(data.AsInt(i, j));
-                } else if (inp_Utils::IsId(value)) {
-                    missing.Append(value);  // a number but no label, such as ten digits
-                } else if (sets.HasSet(value)) {
+                } else if (name && sets.HasSet(value)) {
                     take(cow_String(), *sets.ConstGetSet(value));
-                } else if (sets.HasNestedSet(kFakeInstance, value)) {
+                } else if (name && sets.HasNestedSet(kFakeInstance, value)) {
                     take(kFakeInstance, *sets.ConstGetNestedSet(kFakeInstance, value));
                 } else {
                     missing.Append(value);
