@@ -26,6 +26,7 @@
 #include <string>
 #include <string_view>
 
+#include "mesh/inp_NodeVisitor.h"
 #include "parser/inp_Parser.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
@@ -107,7 +108,8 @@ cow_List<inp_Keyword> parse(ScratchDirectory const& files, bool strict, bool bul
     return keywords;
 }
 
-// The library's road through organization. The message sink is put back as
+// The library's road through organization, with the node visitor over the
+// expanded list. The message sink is put back as
 // it was afterwards, so that the diagnostics of every input don't pile up;
 // they are read once on the way, as a caller would.
 void runTheRoad(ScratchDirectory const& files) {
@@ -115,7 +117,12 @@ void runTheRoad(ScratchDirectory const& files) {
     std::size_t const before = messages.Diagnostics().size();
     inp_InputFile input;
     input.SetIncludePath(files.Directory());
-    input.Run(files.Deck(), inp_Stage::Organize, inp_InputFile::RunRule::RunThrough);
+    input.Run(files.Deck(), inp_Stage::Expand, inp_InputFile::RunRule::RunThrough);
+    // The node visitor reads the expanded flat list, as the extraction of a
+    // flat deck will; then the road goes on.
+    inp_NodeVisitor nodes(true);
+    nodes.VisitList(input.GetKeywords());
+    input.Reorganize();
     cow_List<inp_Keyword> const& tree = input.Keywords();
     std::size_t cells = walk(tree);
     for (inp_Keyword const& keyword : tree) cells += walk(keyword.Suboptions());

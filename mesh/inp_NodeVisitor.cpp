@@ -81,11 +81,7 @@ inp_NodeVisitor::~inp_NodeVisitor() = default;
 void inp_NodeVisitor::DefaultAction(inp_Keyword&) {}
 
 // *NGEN and *NFILL live in inp_NodeGeneration.cpp, *NCOPY in
-// inp_NodeCopy.cpp. *NMAP is not mapped yet: its nodes stay where *NODE put
-// them. No stage runs this visitor until *NMAP is in place.
-void inp_NodeVisitor::VisitNmap(inp_Keyword& keyword) {
-    DefaultAction(keyword);
-}
+// inp_NodeCopy.cpp, *NMAP in inp_NodeMap.cpp.
 
 cow_String inp_NodeVisitor::KeywordName() const {
     return "*NODE";

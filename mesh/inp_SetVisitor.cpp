@@ -173,6 +173,11 @@ inpM_SetHandle inp_SetVisitor::readIdsAndSetNames(inp_Keyword const& keyword, bo
 
     // A named set's ids: in place for the unsorted form, straight into the
     // set for the sorted one. A set of the assembly level gives its own ids.
+    // For the unsorted form two readings of the rule meet: one addition of
+    // all literal ids at the end would put them behind every named set, but
+    // an unsorted set exists to keep the order written. The order written
+    // wins here: ids and named sets stand as the data has them, and the one
+    // addition at the end takes the whole list in that order.
     auto take = [&](inpM_BaseSet const& found, bool ownIdsOnly) {
         if (unsorted)
             ids.Concatenate(found.ConstGetIdList());

@@ -1,5 +1,6 @@
 // Decks of random keywords in random order, with random parameters and data,
-// must go through parsing, expansion and organization with diagnostics only:
+// must go through parsing, expansion and organization, and the node visitor
+// over the expanded list, with diagnostics only:
 // no exception, no crash, no memory fault (the suite also runs under the
 // address and undefined-behaviour sanitizers).
 
@@ -10,6 +11,7 @@
 #include <vector>
 
 #include "expansion/inp_Schema.h"
+#include "mesh/inp_NodeVisitor.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
@@ -118,6 +120,8 @@ TEST(RandomDeckStages, RandomDecksGoThroughParseExpansionAndOrganizationWithDiag
         ASSERT_NO_THROW({
             input.Parse(path);
             input.ExpandKeywords();
+            inp_NodeVisitor nodes(true);
+            nodes.VisitList(input.GetKeywords());
             input.Reorganize();
         }) << "seed "
            << seed;
