@@ -4,7 +4,9 @@
 // and the NSET=ALL of its *NODE). NodesOnly walks the *NODE keyword alone,
 // without its NSET parameter, to separate the map from the sets.
 //
-// GenerateMillionIds times *NSET, GENERATE of one row 1 to 1,000,000.
+// GenerateMillionIds times *NSET, GENERATE of one row 1 to 1,000,000;
+// NgenMillionNodes an *NGEN of 999,999 nodes on a straight line between two
+// nodes of a *NODE.
 
 #include <benchmark/benchmark.h>
 
@@ -91,6 +93,28 @@ void BM_NsetGenerateMillionIds(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * 1000000);
 }
 BENCHMARK(BM_NsetGenerateMillionIds)->Unit(benchmark::kMillisecond);
+
+void BM_NgenMillionNodes(benchmark::State& state) {
+    inp_Keyword ends(inp_kw_Node);
+    ends.Data().Append("1, 0., 0., 0.");
+    ends.Data().Append("1000001, 1., 0., 0.");
+    inp_Keyword line(inp_kw_Ngen);
+    line.Data().Append("1, 1000001, 1");
+    cow_List<inp_Keyword> keywords;
+    keywords.Append(ends);
+    keywords.Append(line);
+    std::optional<inp_NodeVisitor> visitor;
+    for (auto _ : state) {
+        state.PauseTiming();  // releasing the last map is not part of the walk
+        visitor.reset();
+        visitor.emplace(true);
+        state.ResumeTiming();
+        visitor->VisitList(keywords);
+    }
+    state.counters["nodes"] = nodeCount(*visitor);
+    state.SetItemsProcessed(state.iterations() * 999999);
+}
+BENCHMARK(BM_NgenMillionNodes)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
