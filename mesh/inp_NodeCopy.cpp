@@ -16,19 +16,6 @@ namespace {
 
 constexpr double kDegree = 3.141592653589793 / 180.0;
 
-double numberAt(inp_DataArray const& data, int row, int col) {
-    if (!data.HasValue(row, col)) return 0.0;
-    inp_Types::typeEnm const type = data.Type(row, col);
-    if (type != inp_Types::inp_REAL && type != inp_Types::inp_INTEGER) return 0.0;
-    return data.AsDouble(row, col);
-}
-
-int integerAt(inp_DataArray const& data, int row, int col) {
-    if (!data.HasValue(row, col)) return 0;
-    if (data.Type(row, col) != inp_Types::inp_INTEGER) return 0;
-    return data.AsInt(row, col);
-}
-
 // 2 centre - p: p reflected through the centre.
 gsl_Point through(gsl_Point const& centre, gsl_Point const& p) {
     return gsl_Point(centre, 2.0, p, -1.0);
@@ -110,7 +97,7 @@ void inp_NodeVisitor::VisitNcopy(inp_Keyword& keyword) {
             translation =
                 gsl_Matrix::Translation(gsl_Vector(ReadPointFromKeywordData(keyword, 0, 0)));
         if (data.Rows() > 1) {
-            double const angle = numberAt(data, 1, 6);
+            double const angle = NumberAt(data, 1, 6);
             if (angle != 0.0) {
                 gsl_Point const a = ReadPointFromKeywordData(keyword, 1, 0);
                 gsl_Vector axis(a, ReadPointFromKeywordData(keyword, 1, 3));
@@ -147,7 +134,7 @@ void inp_NodeVisitor::VisitNcopy(inp_Keyword& keyword) {
     } else if (pole) {
         // The pole node is taken where it is stored, in the frame in which
         // the copies are made.
-        int const label = integerAt(data, 0, 0);
+        int const label = IntegerAt(data, 0, 0);
         if (target->IsMember(label))
             centre = UndoInstanceTransform(target->ConstGet(label)).Point();
         else

@@ -28,21 +28,6 @@ constexpr double kCenterTolerance = 1e-16;
 constexpr double kSmallAngle = 1e-6;
 constexpr double kNearlyPi = 3.141591653589793;
 
-// A number of a data line; missing values and text read as 0.
-double numberAt(inp_DataArray const& data, int row, int col) {
-    if (!data.HasValue(row, col)) return 0.0;
-    inp_Types::typeEnm const type = data.Type(row, col);
-    if (type != inp_Types::inp_REAL && type != inp_Types::inp_INTEGER) return 0.0;
-    return data.AsDouble(row, col);
-}
-
-// A label or count of a data line; missing values and text read as 0.
-int integerAt(inp_DataArray const& data, int row, int col) {
-    if (!data.HasValue(row, col)) return 0;
-    if (data.Type(row, col) != inp_Types::inp_INTEGER) return 0;
-    return data.AsInt(row, col);
-}
-
 // `text` followed by the values of the row as written, joined by ", ".
 atr_String invalidLine(char const* text, inp_DataArray const& data, int row) {
     atr_String message = atr(text);
@@ -144,8 +129,8 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
                                                  invalidLine("Invalid data line: \n", data, row)));
             break;
         }
-        int const first = integerAt(data, row, 0);
-        int const last = integerAt(data, row, 1);
+        int const first = IntegerAt(data, row, 0);
+        int const last = IntegerAt(data, row, 1);
 
         // A missing end is reported and taken at the origin. Once the row is
         // known to generate, it is stored there too, so that it exists from
@@ -155,7 +140,7 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
         if (missingFirst) missingNode(first);
         if (missingLast) missingNode(last);
 
-        int increment = integerAt(data, row, 2);
+        int increment = IntegerAt(data, row, 2);
         if (increment == 0) increment = 1;
         std::int64_t const distance = std::int64_t{last} - first;
         if (distance == 0 || distance % increment != 0) {
@@ -200,7 +185,7 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
         Vec3 third;
         Vec3 planeDirection;
         if (curved) {
-            int const thirdLabel = integerAt(data, row, 3);
+            int const thirdLabel = IntegerAt(data, row, 3);
             if (thirdLabel != 0) {
                 if (!target->IsMember(thirdLabel)) {
                     missingNode(thirdLabel);
@@ -208,8 +193,8 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
                 }
                 third = pointOf(target->ConstGet(thirdLabel));
             } else {
-                inp_Coord point(numberAt(data, row, 4), numberAt(data, row, 5),
-                                numberAt(data, row, 6));
+                inp_Coord point(NumberAt(data, row, 4), NumberAt(data, row, 5),
+                                NumberAt(data, row, 6));
                 if (system == "C")
                     point.Cylindrical2Rectangular();
                 else if (system == "S")
@@ -219,8 +204,8 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
                 point.SetPoint(moved);
                 third = pointOf(ApplyInstanceTransform(point));
             }
-            gsl_Vector direction(numberAt(data, row, 7), numberAt(data, row, 8),
-                                 numberAt(data, row, 9));
+            gsl_Vector direction(NumberAt(data, row, 7), NumberAt(data, row, 8),
+                                 NumberAt(data, row, 9));
             // A direction too short to normalise counts as none.
             if (direction.Normalize()) {
                 m_systemTransform.Transform(direction);
@@ -413,7 +398,7 @@ void inp_NodeVisitor::VisitNfill(inp_Keyword& keyword) {
                                    "%5$d", cow_String::FromInt(pairs))));
         }
 
-        int const intervals = integerAt(data, row, 2);
+        int const intervals = IntegerAt(data, row, 2);
         if (intervals < 1) {
             AddError(inp_Utils::MessageInKeyword(keyword,
                                                  atr("The number of intervals must be given.")));
@@ -425,7 +410,7 @@ void inp_NodeVisitor::VisitNfill(inp_Keyword& keyword) {
                              "is specified.")));
             return;
         }
-        int increment = integerAt(data, row, 3);
+        int increment = IntegerAt(data, row, 3);
         if (increment == 0) increment = 1;
 
         // The sum of the interval lengths, once for the row. With TWO STEP

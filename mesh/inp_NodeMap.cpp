@@ -18,19 +18,6 @@ namespace {
 
 constexpr double kDegree = 3.141592653589793 / 180.0;
 
-double numberAt(inp_DataArray const& data, int row, int col) {
-    if (row < 0 || row >= data.Rows() || col < 0 || col >= data.Cols(row)) return 0.0;
-    if (!data.HasValue(row, col)) return 0.0;
-    inp_Types::typeEnm const type = data.Type(row, col);
-    if (type != inp_Types::inp_REAL && type != inp_Types::inp_INTEGER) return 0.0;
-    return data.AsDouble(row, col);
-}
-
-bool hasValueAt(inp_DataArray const& data, int row, int col) {
-    return row >= 0 && row < data.Rows() && col >= 0 && col < data.Cols(row) &&
-           data.HasValue(row, col);
-}
-
 int valuesOnRow(inp_DataArray const& data, int row) {
     if (row < 0 || row >= data.Rows()) return 0;
     int count = 0;
@@ -41,7 +28,7 @@ int valuesOnRow(inp_DataArray const& data, int row) {
 
 // A scale factor; missing or 0 leaves the default 1.0.
 double factorAt(inp_DataArray const& data, int row, int col) {
-    double const value = numberAt(data, row, col);
+    double const value = inp_NodeVisitor::NumberAt(data, row, col);
     return value == 0.0 ? 1.0 : value;
 }
 
@@ -165,7 +152,7 @@ void inp_NodeVisitor::VisitNmap(inp_Keyword& keyword) {
             // origin, so that A = (0, 0, 0), B = (3, 0, 0) moves by (1, 0, 0).
             gsl_Vector d(a, b);
             if (d.Normalize()) {
-                double const length = hasValueAt(data, 1, 0) ? numberAt(data, 1, 0) : 1.0;
+                double const length = data.HasValue(1, 0) ? NumberAt(data, 1, 0) : 1.0;
                 d.Scale(length);
             }
             map.SetTranslation(d);
@@ -175,7 +162,7 @@ void inp_NodeVisitor::VisitNmap(inp_Keyword& keyword) {
         case MapType::Rotation: {
             gsl_Vector axis(a, b);
             if (!axis.Normalize()) error(atr("Point B is too close to point A. "));
-            map = gsl_Matrix::AxisRotation(a, axis, numberAt(data, 2, 0) * kDegree);
+            map = gsl_Matrix::AxisRotation(a, axis, NumberAt(data, 2, 0) * kDegree);
             localSystem = false;
             break;
         }
@@ -205,7 +192,7 @@ void inp_NodeVisitor::VisitNmap(inp_Keyword& keyword) {
             if (type == MapType::Toroidal) majorRadius = x.ComputeMagnitude();
             if (!x.Normalize())
                 error(atr("The x-axis of the local coordinate system is not defined."));
-            if (!hasValueAt(data, 1, 0)) {
+            if (!data.HasValue(1, 0)) {
                 z = gsl_Vector(0.0, 0.0, 1.0);
                 y = z.CrossProduct(x);
                 if (!y.Normalize())

@@ -470,31 +470,28 @@ inp_Coord inp_NodeVisitor::UndoInstanceTransform(inp_Coord const& record) const 
     return result;
 }
 
+double inp_NodeVisitor::NumberAt(inp_DataArray const& data, int row, int col) {
+    if (!data.HasValue(row, col)) return 0.0;  // also false outside the data
+    inp_Types::typeEnm const type = data.Type(row, col);
+    if (type != inp_Types::inp_REAL && type != inp_Types::inp_INTEGER) return 0.0;
+    return data.AsDouble(row, col);
+}
+
+int inp_NodeVisitor::IntegerAt(inp_DataArray const& data, int row, int col) {
+    if (!data.HasValue(row, col)) return 0;
+    if (data.Type(row, col) != inp_Types::inp_INTEGER) return 0;
+    return data.AsInt(row, col);
+}
+
 gsl_Point inp_NodeVisitor::ReadPointFromKeywordData(inp_Keyword const& keyword, int row, int col) {
     inp_DataArray const& data = keyword.Data();
-    double values[3] = {0.0, 0.0, 0.0};
-    if (row >= 0 && row < data.Rows()) {
-        int const columns = data.Cols(row);
-        for (int k = 0; k < 3; ++k) {
-            int const j = col + k;
-            if (j < 0 || j >= columns || !data.HasValue(row, j)) continue;
-            inp_Types::typeEnm const type = data.Type(row, j);
-            // Text where a number belongs reads as 0.0, like a missing value.
-            if (type == inp_Types::inp_REAL || type == inp_Types::inp_INTEGER)
-                values[k] = data.AsDouble(row, j);
-        }
-    }
-    return {values[0], values[1], values[2]};
+    return {NumberAt(data, row, col), NumberAt(data, row, col + 1), NumberAt(data, row, col + 2)};
 }
 
 gsl_Point inp_NodeVisitor::ReadNodeFromKeywordData(inp_Keyword const& keyword,
                                                    cow_String const& scope, int row,
                                                    int col) const {
-    inp_DataArray const& data = keyword.Data();
-    int label = 0;
-    if (row >= 0 && row < data.Rows() && col >= 0 && col < data.Cols(row) &&
-        data.HasValue(row, col) && data.Type(row, col) == inp_Types::inp_INTEGER)
-        label = data.AsInt(row, col);
+    int const label = IntegerAt(keyword.Data(), row, col);
     inp_CoordMap const* map = &m_coordMap;
     if (!scope.IsEmpty()) {
         if (!m_coordMap.IsMember(scope)) return {};

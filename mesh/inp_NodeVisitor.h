@@ -76,6 +76,12 @@ class inp_NodeVisitor : public inp_SetVisitor {
     inp_Coord ApplyInstanceTransform(inp_Coord const& record) const;
     inp_Coord UndoInstanceTransform(inp_Coord const& record) const;
 
+    // A number, or a label or count, at (row, col) of a data line; a missing
+    // value, one beyond the end of the line or of the data, and text where a
+    // number belongs all read as 0.
+    static double NumberAt(inp_DataArray const& data, int row, int col);
+    static int IntegerAt(inp_DataArray const& data, int row, int col);
+
     // Three consecutive values from (row, col) on; values beyond the end of
     // the line, or of the data, are 0.0.
     static gsl_Point ReadPointFromKeywordData(inp_Keyword const& keyword, int row, int col);
