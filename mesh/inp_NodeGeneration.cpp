@@ -38,44 +38,18 @@ atr_String invalidLine(char const* text, inp_DataArray const& data, int row) {
     return message;
 }
 
-struct Vec3 {
-    double x = 0.0, y = 0.0, z = 0.0;
-};
-
-Vec3 pointOf(inp_Coord const& c) {
+gsl_Vector pointOf(inp_Coord const& c) {
     return {c.x, c.y, c.z};
 }
-Vec3 normalOf(inp_Coord const& c) {
+gsl_Vector normalOf(inp_Coord const& c) {
     return {c.nx, c.ny, c.nz};
 }
-double dot(Vec3 const& a, Vec3 const& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-Vec3 cross(Vec3 const& a, Vec3 const& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-Vec3 minus(Vec3 const& a, Vec3 const& b) {
-    return {a.x - b.x, a.y - b.y, a.z - b.z};
-}
-double length(Vec3 const& a) {
-    return std::sqrt(dot(a, a));
-}
 // a times s plus b times t.
-Vec3 combine(Vec3 const& a, double s, Vec3 const& b, double t) {
-    return {a.x * s + b.x * t, a.y * s + b.y * t, a.z * s + b.z * t};
+gsl_Vector combine(gsl_Vector const& a, double s, gsl_Vector const& b, double t) {
+    return {a.X() * s + b.X() * t, a.Y() * s + b.Y() * t, a.Z() * s + b.Z() * t};
 }
-
-// Normalises `v` with the tolerance of the geometry library; false (and `v`
-// untouched) for a vector too short.
-bool normalize(Vec3& v) {
-    gsl_Vector vector(v.x, v.y, v.z);
-    if (!vector.Normalize()) return false;
-    v = {vector.X(), vector.Y(), vector.Z()};
-    return true;
-}
-
-inp_Coord recordOf(Vec3 const& v) {
-    return {v.x, v.y, v.z};
+inp_Coord recordOf(gsl_Vector const& v) {
+    return {v.X(), v.Y(), v.Z()};
 }
 
 // Moves generated records from the global frame back into the frame of the
@@ -175,15 +149,15 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
             continue;
         }
 
-        Vec3 const p1 = pointOf(firstNode);
-        Vec3 const p2 = pointOf(lastNode);
-        Vec3 n1 = normalOf(firstNode);
-        Vec3 n2 = normalOf(lastNode);
-        bool const withNormals = normalize(n1) && normalize(n2);
+        gsl_Vector const p1 = pointOf(firstNode);
+        gsl_Vector const p2 = pointOf(lastNode);
+        gsl_Vector n1 = normalOf(firstNode);
+        gsl_Vector n2 = normalOf(lastNode);
+        bool const withNormals = n1.Normalize() && n2.Normalize();
 
         // The third point: the center of a circle, the middle of a parabola.
-        Vec3 third;
-        Vec3 planeDirection;
+        gsl_Vector third;
+        gsl_Vector planeDirection;
         if (curved) {
             int const thirdLabel = IntegerAt(data, row, 3);
             if (thirdLabel != 0) {
@@ -220,14 +194,14 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
             !CircleData(keyword, firstNode, lastNode, recordOf(third), recordOf(planeDirection),
                         radius, angle, startAxis, sideAxis, planeNormal, endAxis))
             break;
-        Vec3 const X = pointOf(startAxis);
-        Vec3 const Y = pointOf(sideAxis);
-        Vec3 const Z = pointOf(planeNormal);
-        Vec3 const E = pointOf(endAxis);
-        double const r1 = dot(n1, X);
-        double const r2 = dot(n2, E);
-        double const z1 = dot(n1, Z);
-        double const z2 = dot(n2, Z);
+        gsl_Vector const X = pointOf(startAxis);
+        gsl_Vector const Y = pointOf(sideAxis);
+        gsl_Vector const Z = pointOf(planeNormal);
+        gsl_Vector const E = pointOf(endAxis);
+        double const r1 = n1.DotProduct(X);
+        double const r2 = n2.DotProduct(E);
+        double const z1 = n1.DotProduct(Z);
+        double const z2 = n2.DotProduct(Z);
         double const sideGrowth = shape == 'C' ? (r2 - r1) * kHalfPi / angle : 0.0;
 
         double const n = static_cast<double>(steps);
@@ -238,31 +212,31 @@ void inp_NodeVisitor::VisitNgen(inp_Keyword& keyword) {
                 double const s = (t + 1.0) / 2.0 * angle;
                 double const sine = std::sin(s);
                 double const cosine = std::cos(s);
-                Vec3 const p = combine(Y, radius * sine, X, radius * cosine);
-                record = {third.x + p.x, third.y + p.y, third.z + p.z};
+                gsl_Vector const p = combine(Y, radius * sine, X, radius * cosine);
+                record = {third.X() + p.X(), third.Y() + p.Y(), third.Z() + p.Z()};
                 if (withNormals) {
                     double const zPart = (1.0 + t) * z2 / 2.0 + (1.0 - t) * z1 / 2.0;
-                    Vec3 const nxy = combine(X, r1 * cosine, Y, (r1 + sideGrowth) * sine);
-                    record.AttachNormalComponents(zPart * Z.x + nxy.x, zPart * Z.y + nxy.y,
-                                                  zPart * Z.z + nxy.z);
+                    gsl_Vector const nxy = combine(X, r1 * cosine, Y, (r1 + sideGrowth) * sine);
+                    record.AttachNormalComponents(zPart * Z.X() + nxy.X(), zPart * Z.Y() + nxy.Y(),
+                                                  zPart * Z.Z() + nxy.Z());
                 }
             } else {
                 if (shape == 'P') {
                     double const w1 = t * (t - 1.0) / 2.0;
                     double const wm = -(t + 1.0) * (t - 1.0);
                     double const w2 = (t + 1.0) * t / 2.0;
-                    record = {w1 * p1.x + wm * third.x + w2 * p2.x,
-                              w1 * p1.y + wm * third.y + w2 * p2.y,
-                              w1 * p1.z + wm * third.z + w2 * p2.z};
+                    record = {w1 * p1.X() + wm * third.X() + w2 * p2.X(),
+                              w1 * p1.Y() + wm * third.Y() + w2 * p2.Y(),
+                              w1 * p1.Z() + wm * third.Z() + w2 * p2.Z()};
                 } else {
-                    record = {((1.0 + t) * p2.x - (t - 1.0) * p1.x) / 2.0,
-                              ((1.0 + t) * p2.y - (t - 1.0) * p1.y) / 2.0,
-                              ((1.0 + t) * p2.z - (t - 1.0) * p1.z) / 2.0};
+                    record = {((1.0 + t) * p2.X() - (t - 1.0) * p1.X()) / 2.0,
+                              ((1.0 + t) * p2.Y() - (t - 1.0) * p1.Y()) / 2.0,
+                              ((1.0 + t) * p2.Z() - (t - 1.0) * p1.Z()) / 2.0};
                 }
                 if (withNormals)
-                    record.AttachNormalComponents(((1.0 + t) * n2.x - (t - 1.0) * n1.x) / 2.0,
-                                                  ((1.0 + t) * n2.y - (t - 1.0) * n1.y) / 2.0,
-                                                  ((1.0 + t) * n2.z - (t - 1.0) * n1.z) / 2.0);
+                    record.AttachNormalComponents(((1.0 + t) * n2.X() - (t - 1.0) * n1.X()) / 2.0,
+                                                  ((1.0 + t) * n2.Y() - (t - 1.0) * n1.Y()) / 2.0,
+                                                  ((1.0 + t) * n2.Z() - (t - 1.0) * n1.Z()) / 2.0);
             }
             record.ZeroSmallerThanTolerance();
             local.Apply(record);
@@ -278,11 +252,11 @@ bool inp_NodeVisitor::CircleData(inp_Keyword const& keyword, inp_Coord const& fi
                                  inp_Coord const& normal, double& radius, double& angle,
                                  inp_Coord& startAxis, inp_Coord& sideAxis, inp_Coord& planeNormal,
                                  inp_Coord& endAxis) {
-    Vec3 const c0 = pointOf(center);
-    Vec3 a = minus(pointOf(first), c0);
-    Vec3 b = minus(pointOf(last), c0);
-    double const lengthA = length(a);
-    double const lengthB = length(b);
+    gsl_Vector const c0 = pointOf(center);
+    gsl_Vector a = pointOf(first) - c0;
+    gsl_Vector b = pointOf(last) - c0;
+    double const lengthA = a.ComputeMagnitude();
+    double const lengthB = b.ComputeMagnitude();
     if (lengthA < kCenterTolerance || lengthB < kCenterTolerance) {
         AddError(inp_Utils::MessageInKeyword(
             keyword, atr("End point of the arc has the same coordinates as the center of the "
@@ -298,12 +272,12 @@ bool inp_NodeVisitor::CircleData(inp_Keyword const& keyword, inp_Coord const& fi
     a = combine(a, 1.0 / lengthA, a, 0.0);
     b = combine(b, 1.0 / lengthB, b, 0.0);
     endAxis = recordOf(b);
-    double const x = dot(a, b);
+    double const x = a.DotProduct(b);
     angle = x <= -1.0 ? kPi : x >= 1.0 ? 0.0 : std::acos(x);
-    Vec3 c = cross(a, b);
+    gsl_Vector c = a.CrossProduct(b);
 
-    Vec3 const given = pointOf(normal);
-    if (length(given) == 0.0) {
+    gsl_Vector const given = pointOf(normal);
+    if (given.ComputeMagnitude() == 0.0) {
         // Without a normal the arc runs the short way, and it needs a plane.
         if (angle < kSmallAngle || angle > kNearlyPi) {
             AddError(inp_Utils::MessageInKeyword(
@@ -316,13 +290,13 @@ bool inp_NodeVisitor::CircleData(inp_Keyword const& keyword, inp_Coord const& fi
         // normal against a x b the longer arc.
         if (angle < kSmallAngle)
             angle = kTwoPi;
-        else if (dot(given, c) < 0.0)
+        else if (given.DotProduct(c) < 0.0)
             angle = kTwoPi - angle;
         c = given;
     }
-    normalize(c);
+    c.Normalize();
     planeNormal = recordOf(c);
-    sideAxis = recordOf(cross(c, a));
+    sideAxis = recordOf(c.CrossProduct(a));
     startAxis = recordOf(a);
     return true;
 }
@@ -464,20 +438,20 @@ void inp_NodeVisitor::VisitNfill(inp_Keyword& keyword) {
                 continue;
             }
 
-            Vec3 const A = pointOf(nodeA);
-            Vec3 const B = pointOf(nodeB);
-            Vec3 nA = normalOf(nodeA);
-            Vec3 nB = normalOf(nodeB);
-            bool const okA = normalize(nA);
-            bool const okB = normalize(nB);
+            gsl_Vector const A = pointOf(nodeA);
+            gsl_Vector const B = pointOf(nodeB);
+            gsl_Vector nA = normalOf(nodeA);
+            gsl_Vector nB = normalOf(nodeB);
+            bool const okA = nA.Normalize();
+            bool const okB = nB.Normalize();
             // One normal stands for both; none makes none.
             if (okA && !okB) nB = nA;
             if (okB && !okA) nA = nB;
             bool const withNormals = okA || okB;
 
-            auto store = [&](int label, Vec3 const& p, Vec3 const& normal) {
+            auto store = [&](int label, gsl_Vector const& p, gsl_Vector const& normal) {
                 inp_Coord record = recordOf(p);
-                if (withNormals) record.AttachNormalComponents(normal.x, normal.y, normal.z);
+                if (withNormals) record.AttachNormalComponents(normal.X(), normal.Y(), normal.Z());
                 local.Apply(record);
                 target->Insert(label, record);
                 labels.Append(label);
@@ -500,17 +474,17 @@ void inp_NodeVisitor::VisitNfill(inp_Keyword& keyword) {
             // midside next to the crowded end sits at a quarter of its
             // interval.
             int const half = intervals / 2;
-            Vec3 previous = A;
-            Vec3 previousNormal = nA;
+            gsl_Vector previous = A;
+            gsl_Vector previousNormal = nA;
             int k = 1;
             for (int i = 1; i <= half; ++i) {
                 double a = static_cast<double>(i) / half;
                 if (singular == 2) a = 1.0 - a;
                 a *= a;
-                Vec3 const corner = singular == 1 ? combine(minus(B, A), a, A, 1.0)
-                                                  : combine(B, 1.0, minus(B, A), -a);
-                Vec3 const cornerNormal = singular == 1 ? combine(minus(nB, nA), a, nA, 1.0)
-                                                        : combine(nB, 1.0, minus(nB, nA), -a);
+                gsl_Vector const corner =
+                    singular == 1 ? combine((B - A), a, A, 1.0) : combine(B, 1.0, (B - A), -a);
+                gsl_Vector const cornerNormal = singular == 1 ? combine((nB - nA), a, nA, 1.0)
+                                                              : combine(nB, 1.0, (nB - nA), -a);
                 double w = 0.5;  // weight of the previous corner
                 if (i == 1 && singular == 1)
                     w = 0.75;
