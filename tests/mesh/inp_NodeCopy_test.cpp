@@ -4,38 +4,20 @@
 #include <string>
 #include <vector>
 
-#include "mesh/inp_NodeVisitor.h"
-#include "support/inpM_Set.h"
+#include "NodeKeywordLevel.h"
 
 namespace {
 
 using Ids = std::vector<int>;
 using Texts = std::vector<std::string>;
 
-constexpr double kTol = 1e-12;
-
-// A node visitor on the top level, or in an instance moved by a translation.
-class Nodes : public inp_NodeVisitor {
+class Nodes : public NodeKeywordLevel {
   public:
-    Nodes() : inp_NodeVisitor(true) {}
-
-    void InInstanceMovedBy(double dx, double dy, double dz) {
-        m_instanceName = "I";
-        m_instanceTransform.SetTranslation(dx, dy, dz);
-        inp_CoordMap nested;
-        nested.Transform(m_instanceTransform);
-        m_coordMap.Insert("I", nested);
-    }
-    inp_CoordMap& Level() { return CurrentName().IsEmpty() ? m_coordMap : m_coordMap.Get("I"); }
     // A node given in global position; the set OLD holds every node put in.
     void Node(int label, double x, double y, double z, double nx = 0, double ny = 0,
               double nz = 0) {
-        Level().Insert(label, UndoInstanceTransform(inp_Coord(x, y, z, nx, ny, nz)));
-        cow_List<int> list{label};
-        if (CurrentName().IsEmpty())
-            AddAssySet("OLD", CreateSet(list, false, false), false);
-        else
-            AddPartSet("OLD", CreateSet(list, false, false), false);
+        PutNode(label, x, y, z, nx, ny, nz);
+        AddToSet("OLD", cow_List<int>{label});
     }
     void Ncopy(std::initializer_list<char const*> lines, int multiple = 0,
                char const* operation = "shift", char const* value = nullptr) {
@@ -49,27 +31,9 @@ class Nodes : public inp_NodeVisitor {
         for (char const* line : lines) keyword.Data().Append(line);
         VisitNcopy(keyword);
     }
-    void Expect(int label, double x, double y, double z) {
-        ASSERT_TRUE(Level().IsMember(label)) << label;
-        inp_Coord const c = Level().ConstGet(label);
-        EXPECT_NEAR(c.x, x, kTol) << label;
-        EXPECT_NEAR(c.y, y, kTol) << label;
-        EXPECT_NEAR(c.z, z, kTol) << label;
-    }
-    void ExpectNormal(int label, double x, double y, double z) {
-        inp_Coord const c = Level().ConstGet(label);
-        EXPECT_NEAR(c.nx, x, kTol) << label;
-        EXPECT_NEAR(c.ny, y, kTol) << label;
-        EXPECT_NEAR(c.nz, z, kTol) << label;
-    }
     Ids NewSet() const {
         cow_List<int> const list = m_setMap.ConstGetSet("NEW")->ConstGetIdList();
         return Ids(list.begin(), list.end());
-    }
-    Texts Errors() const {
-        Texts result;
-        for (atr_String const& text : GetErrorList()) result.emplace_back(text.View());
-        return result;
     }
 };
 

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "mesh/inp_NodeVisitor.h"
-#include "support/inpM_Set.h"
+#include "NodeKeywordLevel.h"
 
 namespace {
 
@@ -16,36 +15,22 @@ using Texts = std::vector<std::string>;
 constexpr double kTol = 1e-12;
 double const kRoot2 = std::sqrt(0.5);
 
-// A node visitor on the top level, or inside an instance moved by a
-// translation; nodes and sets are put in by hand.
-class Nodes : public inp_NodeVisitor {
+class Nodes : public NodeKeywordLevel {
   public:
-    explicit Nodes(bool readCoordinates = true) : inp_NodeVisitor(readCoordinates) {}
+    explicit Nodes(bool readCoordinates = true) : NodeKeywordLevel(readCoordinates) {}
 
-    void InInstanceMovedBy(double dx, double dy, double dz) {
-        m_instanceName = "I";
-        m_instanceTransform.SetTranslation(dx, dy, dz);
-        inp_CoordMap nested;
-        nested.Transform(m_instanceTransform);
-        m_coordMap.Insert("I", nested);
-    }
     void Ngen(inp_Keyword keyword) { VisitNgen(keyword); }
     void Nfill(inp_Keyword keyword) { VisitNfill(keyword); }
-    inp_CoordMap& Level() { return CurrentName().IsEmpty() ? m_coordMap : m_coordMap.Get("I"); }
-    // A node given in global position.
     void Node(int label, double x, double y, double z, double nx = 0, double ny = 0,
               double nz = 0) {
-        Level().Insert(label, UndoInstanceTransform(inp_Coord(x, y, z, nx, ny, nz)));
+        PutNode(label, x, y, z, nx, ny, nz);
     }
     inp_Coord At(int label) { return Level().ConstGet(label); }
     bool Has(int label) { return Level().IsMember(label); }
     void Set(char const* name, Ids const& ids) {
         cow_List<int> list;
         for (int id : ids) list.Append(id);
-        if (CurrentName().IsEmpty())
-            AddAssySet(name, CreateSet(list, false, false), false);
-        else
-            AddPartSet(name, CreateSet(list, false, false), false);
+        AddToSet(name, list);
     }
     Ids SetIds(char const* name) const {
         inpM_SetHandle const& set = CurrentName().IsEmpty()
@@ -54,13 +39,6 @@ class Nodes : public inp_NodeVisitor {
         cow_List<int> const list = set->ConstGetIdList();
         return Ids(list.begin(), list.end());
     }
-    static Texts texts(cow_List<atr_String> const& list) {
-        Texts result;
-        for (atr_String const& text : list) result.emplace_back(text.View());
-        return result;
-    }
-    Texts Errors() const { return texts(GetErrorList()); }
-    Texts Warnings() const { return texts(GetWarningList()); }
 };
 
 struct Param {

@@ -5,40 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "mesh/inp_NodeVisitor.h"
-#include "support/inpM_Set.h"
+#include "NodeKeywordLevel.h"
 
 namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr double kTol = 1e-12;
-
-// A node visitor on the top level, or in an instance moved by a translation;
-// positions are read and written globally.
-class Nodes : public inp_NodeVisitor {
+class Nodes : public NodeKeywordLevel {
   public:
-    Nodes() : inp_NodeVisitor(true) {}
-
-    void InInstanceMovedBy(double dx, double dy, double dz) {
-        m_instanceName = "I";
-        m_instanceTransform.SetTranslation(dx, dy, dz);
-        inp_CoordMap nested;
-        nested.Transform(m_instanceTransform);
-        m_coordMap.Insert("I", nested);
-    }
     void AtCompatibleLevel() { setAtelierCompatible(true); }
-    inp_CoordMap& Level() { return CurrentName().IsEmpty() ? m_coordMap : m_coordMap.Get("I"); }
     // A node; the set S holds it unless `inSet` is false.
     void Node(int label, double x, double y, double z, double nx = 0, double ny = 0, double nz = 0,
               bool inSet = true) {
-        Level().Insert(label, UndoInstanceTransform(inp_Coord(x, y, z, nx, ny, nz)));
-        if (!inSet) return;
-        cow_List<int> list{label};
-        if (CurrentName().IsEmpty())
-            AddAssySet("S", CreateSet(list, false, false), false);
-        else
-            AddPartSet("S", CreateSet(list, false, false), false);
+        PutNode(label, x, y, z, nx, ny, nz);
+        if (inSet) AddToSet("S", cow_List<int>{label});
     }
     void Nmap(char const* type, std::initializer_list<char const*> lines,
               char const* definition = nullptr, char const* set = "S") {
@@ -49,24 +29,6 @@ class Nodes : public inp_NodeVisitor {
         if (definition != nullptr) keyword.SetParameter("definition", inp_Item(definition));
         for (char const* line : lines) keyword.Data().Append(line);
         VisitNmap(keyword);
-    }
-    void Expect(int label, double x, double y, double z) {
-        ASSERT_TRUE(Level().IsMember(label)) << label;
-        inp_Coord const c = Level().ConstGet(label);
-        EXPECT_NEAR(c.x, x, kTol) << label;
-        EXPECT_NEAR(c.y, y, kTol) << label;
-        EXPECT_NEAR(c.z, z, kTol) << label;
-    }
-    void ExpectNormal(int label, double x, double y, double z) {
-        inp_Coord const c = Level().ConstGet(label);
-        EXPECT_NEAR(c.nx, x, kTol) << label;
-        EXPECT_NEAR(c.ny, y, kTol) << label;
-        EXPECT_NEAR(c.nz, z, kTol) << label;
-    }
-    Texts Errors() const {
-        Texts result;
-        for (atr_String const& text : GetErrorList()) result.emplace_back(text.View());
-        return result;
     }
 };
 
