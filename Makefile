@@ -4,7 +4,7 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan bench fuzz format format-check tidy clean
+.PHONY: all build run test test-asan bench fuzz format format-check tidy install clean
 
 all: build
 
@@ -20,6 +20,13 @@ run: build
 
 test: build
 	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+# Installs the library, its headers, the fedeck program, the CMake package
+# and fedeck.pc under PREFIX.
+PREFIX ?= /usr/local
+
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
 
 $(BUILD_ASAN)/CMakeCache.txt:
 	cmake -S . -B $(BUILD_ASAN) -DCMAKE_BUILD_TYPE=Debug -DFEDECK_SANITIZE=ON -DFEDECK_BUILD_BENCH=OFF

@@ -523,9 +523,3 @@ void inp_NodeVisitor::MatrixVectorMultiply3x3(double (*matrix)[3], double* vecto
 bool inp_NodeVisitor::CheckExistenceOfOldSet(cow_String const& name, cow_String& scope) const {
     return CheckExistenceOfSet(name, scope, m_setMap, m_searchAssembly);
 }
-
-bool CheckExistenceOfSet(cow_String const& name, cow_String& scope, inpM_SetMap const& sets,
-                         bool searchAssembly) {
-    if (searchAssembly) return sets.SearchAssemblyAndInstancesForSet(name, scope);
-    return sets.HasNestedSet(scope, name);
-}

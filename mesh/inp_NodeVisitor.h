@@ -143,9 +143,3 @@ class inp_NodeVisitor : public inp_SetVisitor {
     void nodesOfElsetAtAssembly(inp_Keyword const& keyword, cow_String const& nset,
                                 cow_String const& elset, bool internal);
 };
-
-// Whether the set `name` exists in `sets`: with `searchAssembly` at the
-// assembly level or in an instance (`scope` then tells where), else nested in
-// `scope`.
-bool CheckExistenceOfSet(cow_String const& name, cow_String& scope, inpM_SetMap const& sets,
-                         bool searchAssembly);

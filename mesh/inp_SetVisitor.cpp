@@ -487,3 +487,9 @@ void inp_SetVisitor::ProcessInstanceParameter(inp_Keyword& keyword) {
     }
     keyword.SetData(scoped);
 }
+
+bool CheckExistenceOfSet(cow_String const& name, cow_String& scope, inpM_SetMap const& sets,
+                         bool searchAssembly) {
+    if (searchAssembly) return sets.SearchAssemblyAndInstancesForSet(name, scope);
+    return sets.HasNestedSet(scope, name);
+}

@@ -150,3 +150,9 @@ class inp_SetVisitor : public inp_Visitor {
     inpM_SetHandle const* existingPartSet(cow_String const& name) const;
     inpM_SetHandle const* existingAssemblySet(cow_String const& name) const;
 };
+
+// Whether the set `name` exists in `sets`: with `searchAssembly` at the
+// assembly level or in an instance (`scope` then tells where), else nested in
+// `scope`.
+bool CheckExistenceOfSet(cow_String const& name, cow_String& scope, inpM_SetMap const& sets,
+                         bool searchAssembly);

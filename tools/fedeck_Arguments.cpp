@@ -35,6 +35,17 @@ bool asksForHelp(int argc, char const* const* argv) {
     return false;
 }
 
+// `fedeck version ...`, or --version among the options.
+bool asksForVersion(int argc, char const* const* argv) {
+    if (std::string_view(argv[1]) == "version") return true;
+    for (int i = 1; i < argc; ++i) {
+        std::string_view const argument = argv[i];
+        if (argument == "--") return false;
+        if (argument == "--version") return true;
+    }
+    return false;
+}
+
 bool takesOption(fedeck_Command command, std::string_view option) {
     switch (command) {
         case fedeck_Command::Check:
@@ -44,6 +55,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
         case fedeck_Command::Encrypt:
             return option == "--password";
         case fedeck_Command::Help:
+        case fedeck_Command::Version:
             return false;
     }
     return false;
@@ -132,5 +144,10 @@ class ArgumentReader {
 fedeck_Arguments fedeck_ParseArguments(int argc, char const* const* argv) {
     if (argc < 2) throw fedeck_UsageError("no command given");
     if (asksForHelp(argc, argv)) return fedeck_Arguments{};
+    if (asksForVersion(argc, argv)) {
+        fedeck_Arguments version;
+        version.command = fedeck_Command::Version;
+        return version;
+    }
     return ArgumentReader(argc, argv, findCommand(argv[1])).Read();
 }

@@ -11,7 +11,7 @@ class fedeck_UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-enum class fedeck_Command { Help, Check, Tree, Encrypt };
+enum class fedeck_Command { Help, Version, Check, Tree, Encrypt };
 
 struct fedeck_Arguments {
     fedeck_Command command = fedeck_Command::Help;
@@ -26,7 +26,8 @@ struct fedeck_Arguments {
 // Reads argv[1..argc-1]. Options may stand before or after the operands,
 // as `--name value` or `--name=value`; `--` ends the options. The command
 // `help`, or `--help` or `-h` among the options, asks for help (command Help),
-// whatever else is there. Anything else that is wrong (an unknown command
+// whatever else is there; then `version`, or `--version` among the options,
+// asks for the version (command Version). Anything else that is wrong (an unknown command
 // or option, an option the command doesn't take, a missing value, the wrong
 // number of operands) throws fedeck_UsageError.
 fedeck_Arguments fedeck_ParseArguments(int argc, char const* const* argv);

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <new>
 
+#include "fedeck_Version.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/ZELBasException.h"
 #include "support/aio_Stream.h"
@@ -87,6 +88,9 @@ int runCommand(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream&
         case fedeck_Command::Help:
             out.print(fedeck_UsageText());
             return fedeck_EXIT_CLEAN;
+        case fedeck_Command::Version:
+            out.print("fedeck ").print(FEDECK_VERSION).put('\n');
+            return fedeck_EXIT_CLEAN;
         case fedeck_Command::Check:
             return runCheck(arguments, out);
         case fedeck_Command::Tree:
@@ -125,6 +129,7 @@ std::string fedeck_UsageText() {
            "  fedeck tree  [--include-dir DIR] DECK\n"
            "  fedeck encrypt --password P IN OUT\n"
            "  fedeck help | --help\n"
+           "  fedeck version | --version\n"
            "\n"
            "Commands:\n"
            "  check    Runs the stages of a new job on DECK, up to STAGE, and prints\n"

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "fedeck_Version.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/aio_Stream.h"
 
@@ -96,6 +97,16 @@ TEST_F(FedeckProgram, HelpGoesToStandardOutputAndSucceeds) {
         EXPECT_EQ(result.status, 0);
         EXPECT_EQ(result.out.rfind("Usage:\n", 0), 0u) << help;
         EXPECT_NE(result.out.find("level 0 or 2"), std::string::npos);
+        EXPECT_EQ(result.err, "");
+    }
+}
+
+TEST_F(FedeckProgram, VersionGoesToStandardOutputAndSucceeds) {
+    for (std::vector<std::string> const& arguments :
+         {std::vector<std::string>{"--version"}, {"version"}, {"check", "--version", "x.inp"}}) {
+        Outcome const result = run(arguments);
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.out, std::string("fedeck ") + FEDECK_VERSION + "\n");
         EXPECT_EQ(result.err, "");
     }
 }
