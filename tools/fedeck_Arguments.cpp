@@ -51,7 +51,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
         case fedeck_Command::Check:
             return option == "--include-dir" || option == "--until" || option == "--json";
         case fedeck_Command::Tree:
-            return option == "--include-dir";
+            return option == "--include-dir" || option == "--until";
         case fedeck_Command::Encrypt:
             return option == "--password";
         case fedeck_Command::Help:

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <new>
 
+#include "deck/inp_DeckWriter.h"
 #include "fedeck_Version.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/ZELBasException.h"
@@ -13,7 +14,6 @@
 #include "tools/fedeck_Encrypt.h"
 #include "tools/fedeck_Pipeline.h"
 #include "tools/fedeck_Report.h"
-#include "tools/fedeck_TreePrinter.h"
 
 namespace {
 
@@ -76,10 +76,10 @@ int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
 // The keyword list goes out even when the deck has errors: what could be read
 // is often what the user wants to see.
 int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
-    CheckedDeck const checked(arguments, lastStageToRun(""));
+    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
     fedeck_Report const report = checked.Report();
     report.WriteDiagnostics(err);
-    fedeck_TreePrinter::Print(out, checked.Deck().Keywords());
+    inp_DeckWriter(out).Write(checked.Deck().Keywords());
     return exitStatusOf(report);
 }
 
@@ -126,7 +126,7 @@ std::string fedeck_UsageText() {
     std::string const lastStage = fedeck_Pipeline::Stages().back().name;
     return "Usage:\n"
            "  fedeck check [--include-dir DIR] [--until STAGE] [--json] DECK\n"
-           "  fedeck tree  [--include-dir DIR] DECK\n"
+           "  fedeck tree  [--include-dir DIR] [--until STAGE] DECK\n"
            "  fedeck encrypt --password P IN OUT\n"
            "  fedeck help | --help\n"
            "  fedeck version | --version\n"
@@ -143,9 +143,10 @@ std::string fedeck_UsageText() {
            "           Further lines of a message are indented by four blanks. A stage\n"
            "           that ends with errors ends the run; the summary then adds\n"
            "           \"(stopped after STAGE)\".\n"
-           "  tree     Runs every stage on DECK and writes its keywords back as deck\n"
-           "           text to standard output; diagnostics go to standard error.\n"
-           "           Data lines read from an encrypted file are not shown.\n"
+           "  tree     Runs the stages on DECK (up to STAGE) and writes its keywords\n"
+           "           back as deck text to standard output, text that reads back to\n"
+           "           the same keywords; diagnostics go to standard error. Data lines\n"
+           "           read from an encrypted file are not shown.\n"
            "  encrypt  Writes IN enciphered to OUT, an include file that a deck reads\n"
            "           with *INCLUDE, INPUT=OUT, PASSWORD=P.\n"
            "\n"

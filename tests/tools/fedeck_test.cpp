@@ -276,7 +276,7 @@ TEST_F(FedeckProgram, TreeOfADeckWithErrorsIsPrintedAllTheSame) {
     Outcome const tree = run({"tree", "deck.inp"});
     EXPECT_EQ(tree.status, 1);
     EXPECT_EQ(tree.err, std::string("deck.inp:6: error: ") + kUnknownKeywordText + "\n");
-    EXPECT_NE(tree.out.find("*node, nset=ALL\n1, 0., 0.\n"), std::string::npos) << tree.out;
+    EXPECT_NE(tree.out.find("*NODE, NSET=ALL\n1, 0., 0.\n"), std::string::npos) << tree.out;
 }
 
 TEST_F(FedeckProgram, EncryptedIncludeReadsAsThePlainFileButTreeHidesItsData) {
@@ -289,8 +289,8 @@ TEST_F(FedeckProgram, EncryptedIncludeReadsAsThePlainFileButTreeHidesItsData) {
     EXPECT_EQ(run({"check", "secret.inp"}).out, "secret.inp: 2 keywords, 0 errors, 0 warnings\n");
     EXPECT_EQ(parsedKeywords(path("secret.inp")), parsedKeywords(path("plain.inp")));
     EXPECT_EQ(run({"tree", "secret.inp"}).out,
-              "*node, nset=ALL\n** data lines from an encrypted file are not shown\n"
-              "*element, type=T2D2\n** data lines from an encrypted file are not shown\n");
+              "*NODE, NSET=ALL\n** data lines from an encrypted file are not shown\n"
+              "*ELEMENT, TYPE=T2D2\n** data lines from an encrypted file are not shown\n");
 }
 
 TEST_F(FedeckProgram, EncryptFailuresTellUnreadableInputFromOthers) {
