@@ -20,6 +20,9 @@ set(FEDECK_PUBLIC_HEADER_ROOTS
   pipeline/inp_Module.h
   pipeline/inp_Visitor.h
   mesh/inp_NodeVisitor.h
+  mesh/inp_ElementVisitor.h
+  mesh/inp_NodeGenerationVisitor.h
+  mesh/inp_SurfaceVisitor.h
   mesh/inp_CoordMap.h
   mesh/inp_MapInt2Element.h
   mesh/inp_Utils.h

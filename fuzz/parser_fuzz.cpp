@@ -26,11 +26,11 @@
 #include <string>
 #include <string_view>
 
-#include "mesh/inp_NodeVisitor.h"
 #include "parser/inp_Parser.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
+#include "tests/common/MeshWalks.h"
 
 namespace {
 
@@ -108,7 +108,7 @@ cow_List<inp_Keyword> parse(ScratchDirectory const& files, bool strict, bool bul
     return keywords;
 }
 
-// The library's road through organization, with the node visitor over the
+// The library's road through organization, with the mesh walks over the
 // expanded list. The message sink is put back as
 // it was afterwards, so that the diagnostics of every input don't pile up;
 // they are read once on the way, as a caller would.
@@ -118,13 +118,12 @@ void runTheRoad(ScratchDirectory const& files) {
     inp_InputFile input;
     input.SetIncludePath(files.Directory());
     input.Run(files.Deck(), inp_Stage::Expand, inp_InputFile::RunRule::RunThrough);
-    // The node visitor reads the expanded flat list, as the extraction of a
+    // The mesh walks read the expanded flat list, as the extraction of a
     // flat deck will; then the road goes on.
-    inp_NodeVisitor nodes(true);
-    nodes.VisitList(input.GetKeywords());
+    std::size_t const made = static_cast<std::size_t>(RunMeshWalks(input.GetKeywords()));
     input.Reorganize();
     cow_List<inp_Keyword> const& tree = input.Keywords();
-    std::size_t cells = walk(tree);
+    std::size_t cells = walk(tree) + made;
     for (inp_Keyword const& keyword : tree) cells += walk(keyword.Suboptions());
     for (wip_Diagnostic const& diagnostic : messages.Diagnostics())
         cells += static_cast<std::size_t>(diagnostic.text.Length());

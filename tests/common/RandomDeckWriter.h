@@ -12,7 +12,15 @@
 // Writes decks from a fixed seed, so that a failure can be replayed.
 class RandomDeckWriter {
   public:
-    explicit RandomDeckWriter(unsigned seed) : m_random(seed) {}
+    explicit RandomDeckWriter(unsigned seed) : m_random(seed), m_rows(inp_Schema::AllRows()) {}
+    // Keywords of `names` only (the deck names of schema rows, such as
+    // "element"), and data of small labels: decks that mesh walks bite on.
+    RandomDeckWriter(unsigned seed, std::vector<std::string> const& names)
+        : m_random(seed), m_meshData(true) {
+        for (inp_SchemaRow const* row : inp_Schema::AllRows())
+            for (std::string const& name : names)
+                if (name == row->keyword) m_rows.push_back(row);
+    }
 
     std::string Deck(int keywordCount) {
         std::string deck;
@@ -28,8 +36,7 @@ class RandomDeckWriter {
     // (upper or mixed case, sometimes abbreviated); now and then a word that
     // is no keyword at all.
     std::string keywordName(inp_SchemaRow const*& row) {
-        auto const& rows = inp_Schema::AllRows();
-        row = rows[below(static_cast<int>(rows.size()))];
+        row = m_rows[below(static_cast<int>(m_rows.size()))];
         if (chance(3)) return "NOSUCH" + std::to_string(below(100));
         std::string name = row->keyword;
         if (chance(30)) {
@@ -50,7 +57,9 @@ class RandomDeckWriter {
         }
         static char const* const values[] = {"A", "Set-1", "\"quoted name\"", "12",    "-3.5e2",
                                              "",  "1.0d0", "<param>",         "x y z", "None"};
-        return values[below(10)];
+        static char const* const meshValues[] = {"A",  "B",  "C3D8", "CAXA41", "GK3D18",  "COH3D8P",
+                                                 "S1", "10", "NODE", "B31",    "CONN3D2", "-1"};
+        return m_meshData && chance(60) ? meshValues[below(12)] : values[below(10)];
     }
 
     void appendParameters(std::string& deck, inp_SchemaRow const& row) {
@@ -69,6 +78,7 @@ class RandomDeckWriter {
     }
 
     void appendDataLines(std::string& deck) {
+        if (m_meshData) return appendMeshDataLines(deck);
         static char const* const items[] = {"1",     "2.5",   "-7",  "1e3",          "A", "", " ",
                                             "SET-1", "1.5.5", "'q'", "999999999999", "0"};
         int const lines = chance(40) ? 0 : below(6);
@@ -78,6 +88,22 @@ class RandomDeckWriter {
                 if (i > 0) deck += ", ";
                 deck += items[below(12)];
             }
+            deck += '\n';
+        }
+    }
+
+    // Rows of small labels, now and then a set name, a face identifier, an
+    // empty field or a trailing comma.
+    void appendMeshDataLines(std::string& deck) {
+        static char const* const items[] = {"A", "B", "S1", "S2", "", "0", "-2", "1.5", "I.A"};
+        int const lines = below(5);
+        for (int line = 0; line < lines; ++line) {
+            int const count = 1 + below(22);
+            for (int i = 0; i < count; ++i) {
+                if (i > 0) deck += ", ";
+                deck += chance(80) ? std::to_string(1 + below(12)) : items[below(9)];
+            }
+            if (chance(10)) deck += ",";
             deck += '\n';
         }
     }
@@ -92,4 +118,6 @@ class RandomDeckWriter {
     }
 
     std::mt19937 m_random;
+    std::vector<inp_SchemaRow const*> m_rows;
+    bool m_meshData = false;
 };

@@ -1,0 +1,33 @@
+#pragma once
+// The mesh walks over an expanded keyword list, in the order the extraction
+// of a flat deck runs them: elements, then nodes (which may take nodes from
+// element sets), then the nodes that exist only implicitly, then surfaces.
+// For tests and the fuzz target that must see every mesh walk go over any
+// deck without a fault; the diagnostics go to the thread's sink.
+
+#include "mesh/inp_ElementVisitor.h"
+#include "mesh/inp_NodeGenerationVisitor.h"
+#include "mesh/inp_NodeVisitor.h"
+#include "tests/mesh/SurfaceVisitorForTests.h"
+
+// The number of nodes, elements and surfaces made, so that a caller can
+// keep the walks from being optimised away.
+inline int RunMeshWalks(cow_List<inp_Keyword>& keywords) {
+    inp_ElementVisitor elements(true);
+    elements.VisitListAndReport(keywords);
+    inp_NodeVisitor nodes(elements.ConstGetElementMap(), elements.ConstGetSetMap(), true);
+    nodes.VisitListAndReport(keywords);
+    inp_NodeGenerationVisitor implicitNodes(nodes.ConstGetCoordMap(), elements.ConstGetElementMap(),
+                                            elements.ConstGetSetMap(), true, false, true,
+                                            cow_String());
+    implicitNodes.VisitListAndReport(keywords);
+    SurfaceVisitorForTests surfaces(nodes.ConstGetSetMap(), elements.ConstGetSetMap(),
+                                    elements.ConstGetElementMap(),
+                                    implicitNodes.ConstGetCoordMap());
+    surfaces.VisitListAndReport(keywords);
+    int made = implicitNodes.ConstGetCoordMap().Count();
+    if (elements.ConstGetElementMap().HasValue())
+        made += elements.ConstGetElementMap().ConstGet().Size();
+    made += surfaces.ConstGetSurfaceMap().ConstGetAssemblyInstanceSurfaceMap().Size();
+    return made;
+}
