@@ -21,17 +21,17 @@ inp_Element::inp_Element(inp_Element const& other)
       m_numNodesDefined(other.m_numNodesDefined),
       m_nodeOffset(other.m_nodeOffset) {
     allocateNodes(other.m_numNodesPerElement);
-    std::copy_n(other.m_nodes, m_numNodesPerElement, m_nodes);
+    std::copy_n(other.nodes(), m_numNodesPerElement, nodes());
 }
 
 inp_Element::inp_Element(inp_Element&& other) noexcept
     : m_type(std::move(other.m_type)),
       m_file(std::move(other.m_file)),
-      m_nodes(std::exchange(other.m_nodes, nullptr)),
-      m_numNodesPerElement(std::exchange(other.m_numNodesPerElement, 0)),
       m_solidElementNumbering(other.m_solidElementNumbering),
       m_numNodesDefined(other.m_numNodesDefined),
-      m_nodeOffset(other.m_nodeOffset) {}
+      m_nodeOffset(other.m_nodeOffset) {
+    stealNodes(other);
+}
 
 inp_Element::inp_Element(cow_String type, int count, int const* nodes, int numNodesDefined,
                          int nodeOffset, int solidElementNumbering)
@@ -39,7 +39,7 @@ inp_Element::inp_Element(cow_String type, int count, int const* nodes, int numNo
     ZELBAS_ASSERT(nodes != nullptr || count == 0);
     setCounts(numNodesDefined, nodeOffset, solidElementNumbering);
     allocateNodes(count);
-    std::copy_n(nodes, m_numNodesPerElement, m_nodes);
+    std::copy_n(nodes, m_numNodesPerElement, this->nodes());
 }
 
 inp_Element::inp_Element(cow_String type, cow_List<int> const& nodes, int numNodesDefined,
@@ -47,7 +47,7 @@ inp_Element::inp_Element(cow_String type, cow_List<int> const& nodes, int numNod
     : m_type(std::move(type)) {
     setCounts(numNodesDefined, nodeOffset, solidElementNumbering);
     allocateNodes(nodes.Length());
-    nodes.GetCArray(m_nodes);
+    if (m_numNodesPerElement > 0) nodes.GetCArray(this->nodes());
 }
 
 inp_Element::inp_Element(cow_String type, cow_String file, cow_List<int> const& nodes,
@@ -59,14 +59,14 @@ inp_Element::inp_Element(cow_String type, cow_String file, cow_List<int> const& 
 inp_Element& inp_Element::operator=(inp_Element const& other) {
     if (this == &other) return *this;
     if (other.m_numNodesPerElement != m_numNodesPerElement) {
-        // Allocate before anything changes, so a failure leaves this record whole.
-        int* const fresh = other.m_numNodesPerElement == 0 ? nullptr : other.copyOfNodes();
+        // Make the new room before anything changes, so that a failure leaves
+        // this record whole.
+        inp_Element room;
+        room.allocateNodes(other.m_numNodesPerElement);
         freeNodes();
-        m_nodes = fresh;
-        m_numNodesPerElement = other.m_numNodesPerElement;
-    } else {
-        std::copy_n(other.m_nodes, m_numNodesPerElement, m_nodes);
+        stealNodes(room);
     }
+    std::copy_n(other.nodes(), m_numNodesPerElement, nodes());
     m_type = other.m_type;
     m_file = other.m_file;
     m_solidElementNumbering = other.m_solidElementNumbering;
@@ -78,10 +78,9 @@ inp_Element& inp_Element::operator=(inp_Element const& other) {
 inp_Element& inp_Element::operator=(inp_Element&& other) noexcept {
     if (this == &other) return *this;
     freeNodes();
+    stealNodes(other);
     m_type = std::move(other.m_type);
     m_file = std::move(other.m_file);
-    m_nodes = std::exchange(other.m_nodes, nullptr);
-    m_numNodesPerElement = std::exchange(other.m_numNodesPerElement, 0);
     m_solidElementNumbering = other.m_solidElementNumbering;
     m_numNodesDefined = other.m_numNodesDefined;
     m_nodeOffset = other.m_nodeOffset;
@@ -94,7 +93,7 @@ inp_Element::~inp_Element() {
 
 cow_List<int> inp_Element::NodeList() const {
     cow_List<int> list;
-    list.SetFromArray(m_nodes, m_numNodesPerElement);
+    list.SetFromArray(nodes(), m_numNodesPerElement);
     return list;
 }
 
@@ -103,7 +102,7 @@ bool operator==(inp_Element const& a, inp_Element const& b) noexcept {
            a.m_numNodesPerElement == b.m_numNodesPerElement &&
            a.m_solidElementNumbering == b.m_solidElementNumbering &&
            a.m_numNodesDefined == b.m_numNodesDefined && a.m_nodeOffset == b.m_nodeOffset &&
-           std::equal(a.m_nodes, a.m_nodes + a.m_numNodesPerElement, b.m_nodes);
+           std::equal(a.nodes(), a.nodes() + a.m_numNodesPerElement, b.nodes());
 }
 
 void inp_Element::setCounts(int numNodesDefined, int nodeOffset, int solidElementNumbering) {
@@ -114,27 +113,24 @@ void inp_Element::setCounts(int numNodesDefined, int nodeOffset, int solidElemen
     m_solidElementNumbering = static_cast<int16_t>(solidElementNumbering);
 }
 
-int* inp_Element::newNodeArray(int count) {
-    ZELBAS_ASSERT(count >= 0 && count <= kMaxNodes);
-    if (count == 0) return nullptr;
-    void* const block = mem_Malloc(static_cast<size_t>(count) * sizeof(int));
-    if (!block) throw inp_MemoryException();
-    return static_cast<int*>(block);
-}
-
-int* inp_Element::copyOfNodes() const {
-    int* const copy = newNodeArray(m_numNodesPerElement);
-    std::copy_n(m_nodes, m_numNodesPerElement, copy);
-    return copy;
-}
-
 void inp_Element::allocateNodes(int count) {
-    m_nodes = newNodeArray(count);
+    ZELBAS_ASSERT(count >= 0 && count <= kMaxNodes);
+    if (count > kInlineNodes) {
+        void* const block = mem_Malloc(static_cast<size_t>(count) * sizeof(int));
+        if (!block) throw inp_MemoryException();
+        m_storage.heapNodes = static_cast<int*>(block);
+    }
     m_numNodesPerElement = static_cast<int16_t>(count);
 }
 
 void inp_Element::freeNodes() noexcept {
-    mem_Free(m_nodes);
-    m_nodes = nullptr;
+    if (!isInline()) mem_Free(m_storage.heapNodes);
+    m_storage.heapNodes = nullptr;
     m_numNodesPerElement = 0;
+}
+
+void inp_Element::stealNodes(inp_Element& other) noexcept {
+    m_storage = other.m_storage;  // the pointer, or the nodes themselves
+    m_numNodesPerElement = std::exchange(other.m_numNodesPerElement, 0);
+    other.m_storage.heapNodes = nullptr;
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <utility>
 
 #include "support/cow_List.h"
 #include "support/cow_String.h"
@@ -7,8 +8,10 @@
 
 // One element of the model: its type, its connectivity and the few numbers
 // that element generation needs later. Meshes hold millions of these, so the
-// connectivity is one exact-size array per element and the small counts are
-// 16 bits wide.
+// small counts are 16 bits wide, and the connectivity of up to
+// kInlineNodes nodes (the bricks, shells, beams and springs that make up
+// most meshes) lives in the record itself: such an element is one heap
+// block. A longer connectivity is one exact-size array beside the record.
 //
 // A zero in the connectivity is a node position left open. The allocation
 // operators route records and arrays through the system heap; a failed
@@ -18,6 +21,8 @@ class inp_Element : public mem_AllocationOperators {
     // The widths of the stored counts. Values outside them are a fault of the
     // caller (an assertion), never a silent truncation.
     static constexpr int kMaxNodes = INT16_MAX;
+    // Connectivities up to this length are kept in the record.
+    static constexpr int kInlineNodes = 8;
     // What a connectivity holds where it names no node: an open position,
     // and the value standing for an empty field of a connector.
     static constexpr int kOpenPosition = 0;
@@ -34,8 +39,8 @@ class inp_Element : public mem_AllocationOperators {
     // A superelement: the FILE parameter travels with it; the offset and the
     // gasket numbering are 0.
     inp_Element(cow_String type, cow_String file, cow_List<int> const& nodes, int numNodesDefined);
-    // Keeps the own array when the lengths are equal, frees it when the new
-    // length is 0, and reallocates otherwise.
+    // Keeps the own room when the lengths are equal, and makes new room
+    // otherwise.
     inp_Element& operator=(inp_Element const& other);
     inp_Element& operator=(inp_Element&& other) noexcept;
     ~inp_Element();
@@ -45,9 +50,12 @@ class inp_Element : public mem_AllocationOperators {
     void setFile(cow_String file) noexcept { m_file = static_cast<cow_String&&>(file); }
 
     // The connectivity, numNodesPerElement() entries; null when there are none.
-    int const* nodes() const noexcept { return m_nodes; }
+    int const* nodes() const noexcept {
+        if (m_numNodesPerElement == 0) return nullptr;
+        return isInline() ? m_storage.inlineNodes : m_storage.heapNodes;
+    }
     // Writable in place, e.g. for renumbering or for labels of generated nodes.
-    int* nodes() noexcept { return m_nodes; }
+    int* nodes() noexcept { return const_cast<int*>(std::as_const(*this).nodes()); }
     int numNodesPerElement() const noexcept { return m_numNodesPerElement; }
     int solidElementNumbering() const noexcept { return m_solidElementNumbering; }
     int numNodesDefined() const noexcept { return m_numNodesDefined; }
@@ -59,15 +67,21 @@ class inp_Element : public mem_AllocationOperators {
     friend bool operator==(inp_Element const& a, inp_Element const& b) noexcept;
 
   private:
+    bool isInline() const noexcept { return m_numNodesPerElement <= kInlineNodes; }
     void setCounts(int numNodesDefined, int nodeOffset, int solidElementNumbering);
-    static int* newNodeArray(int count);
-    int* copyOfNodes() const;
+    // Room for `count` nodes (uninitialised), in the record or on the heap;
+    // the old room must have been freed. Throws inp_MemoryException.
     void allocateNodes(int count);
     void freeNodes() noexcept;
+    // Takes over the nodes of `other`, which is left without any.
+    void stealNodes(inp_Element& other) noexcept;
 
     cow_String m_type;
     cow_String m_file;
-    int* m_nodes = nullptr;
+    union Storage {
+        int* heapNodes;
+        int inlineNodes[kInlineNodes];
+    } m_storage{nullptr};
     int16_t m_numNodesPerElement = 0;
     int16_t m_solidElementNumbering = 0;
     int16_t m_numNodesDefined = 0;

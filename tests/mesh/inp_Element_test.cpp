@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "support/ZELBasException.h"
 
 namespace {
@@ -48,7 +50,7 @@ TEST(InpElementConstruction, CountsBeyondTheirWidthAreRefused) {
                  ZELBasAssertException);
 }
 
-TEST(InpElementCopying, CopyOwnsItsOwnArray) {
+TEST(InpElementCopying, CopyOwnsItsOwnNodes) {
     inp_Element original("C3D4", listOf({1, 2, 3, 4}), 0, 0, 0);
     inp_Element copy(original);
     EXPECT_NE(copy.nodes(), original.nodes());
@@ -76,6 +78,39 @@ TEST(InpElementCopying, AssignmentReallocatesOrFreesForOtherLengths) {
     inp_Element const& alias = target;
     target = alias;  // self-assignment keeps the record
     EXPECT_EQ(target, inp_Element());
+}
+
+// Connectivities short enough to live in the record and longer ones on the
+// heap: copies, moves and assignments across the two keep every record whole
+// and independent of the others.
+TEST(InpElementCopying, ShortAndLongConnectivitiesCopyMoveAndAssignAcrossTheirForms) {
+    cow_List<int> twentySeven;
+    for (int i = 1; i <= 27; ++i) twentySeven.Append(i);
+    inp_Element const brick("C3D8", listOf({1, 2, 3, 4, 5, 6, 7, 8}), 0, 0, 0);
+    inp_Element const big("C3D27", twentySeven, 0, 0, 0);
+    ASSERT_LE(brick.numNodesPerElement(), inp_Element::kInlineNodes);
+    ASSERT_GT(big.numNodesPerElement(), inp_Element::kInlineNodes);
+
+    for (inp_Element const* source : {&brick, &big}) {
+        inp_Element copy(*source);
+        EXPECT_EQ(copy, *source);
+        copy.nodes()[copy.numNodesPerElement() - 1] = 99;
+        EXPECT_NE(source->nodes()[source->numNodesPerElement() - 1], 99);
+        inp_Element moved(std::move(copy));
+        EXPECT_EQ(moved.nodes()[moved.numNodesPerElement() - 1], 99);
+        EXPECT_EQ(copy.numNodesPerElement(), 0);
+        EXPECT_EQ(copy.nodes(), nullptr);
+    }
+    inp_Element target = brick;
+    target = big;  // short to long
+    EXPECT_EQ(target, big);
+    target = brick;  // long to short
+    EXPECT_EQ(target, brick);
+    inp_Element moveTarget = brick;
+    moveTarget = inp_Element(big);
+    EXPECT_EQ(moveTarget, big);
+    moveTarget = inp_Element(brick);
+    EXPECT_EQ(moveTarget, brick);
 }
 
 }  // namespace
