@@ -24,12 +24,10 @@
 #include <malloc.h>
 #endif
 
-#include <cstdio>
-#include <filesystem>
 #include <optional>
 #include <string>
 
-#include "bench/inp_DeckGenerator.h"
+#include "bench/ExpandedDeck.h"
 #include "mesh/inp_ElementVisitor.h"
 #include "pipeline/inp_InputFile.h"
 
@@ -53,14 +51,7 @@ cow_List<inp_Keyword> expandedDeck(int instances) {
     inp_DeckLayout layout;
     layout.nx = layout.ny = layout.nz = 100;
     layout.instances = instances;
-    std::string const path =
-        (std::filesystem::temp_directory_path() / "fedeck_bench_elements.inp").string();
-    inp_WriteDeck(layout, path);
-    inp_InputFile file;
-    file.Parse(path.c_str());
-    file.ExpandKeywords();
-    std::remove(path.c_str());
-    return file.Keywords();
+    return ExpandedGeneratedDeck(layout, "fedeck_bench_elements.inp");
 }
 
 cow_List<inp_Keyword> const& flatDeck() {

@@ -10,12 +10,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
-#include <filesystem>
 #include <optional>
 #include <string>
 
-#include "bench/inp_DeckGenerator.h"
+#include "bench/ExpandedDeck.h"
 #include "mesh/inp_NodeVisitor.h"
 #include "pipeline/inp_InputFile.h"
 
@@ -25,14 +23,7 @@ cow_List<inp_Keyword> const& expandedDeck() {
     static cow_List<inp_Keyword> const keywords = [] {
         inp_DeckLayout layout;
         layout.nx = layout.ny = layout.nz = 100;
-        std::string const path =
-            (std::filesystem::temp_directory_path() / "fedeck_bench_nodes.inp").string();
-        inp_WriteDeck(layout, path);
-        inp_InputFile file;
-        file.Parse(path.c_str());
-        file.ExpandKeywords();
-        std::remove(path.c_str());
-        return file.Keywords();
+        return ExpandedGeneratedDeck(layout, "fedeck_bench_nodes.inp");
     }();
     return keywords;
 }
