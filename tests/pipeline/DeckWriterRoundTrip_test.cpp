@@ -130,11 +130,11 @@ TEST(DeckWriterRoundTrip, GeneratedDecksReadBackTheSame) {
 TEST(DeckWriterRoundTrip, RandomDecksWithoutErrorsReadBackTheSame) {
     TempDeckDirectory scratch;
     int checked = 0;
-    for (unsigned seed = 1; seed <= 400; ++seed) {
+    for (unsigned seed = 1; seed <= 2500; ++seed) {
         cow_String const path = scratch.Write("random.inp", RandomDeckWriter(seed).Deck(1));
         if (expectRoundTrip(path, scratch.Directory(), scratch)) ++checked;
     }
-    EXPECT_GE(checked, 40);
+    EXPECT_GE(checked, 300);  // a few hundred decks that read without errors
 }
 
 // Every line the writer wrote stays within what the reader takes.
