@@ -166,7 +166,7 @@ class NodeBuffer {
     // Where `more` nodes behind the present ones go; Grow takes in those
     // that were written.
     int* Room(int more) {
-        size_t const needed = static_cast<size_t>(m_count + more);
+        size_t const needed = static_cast<size_t>(m_count) + static_cast<size_t>(more);
         if (m_storage.size() < needed) m_storage.resize(needed);
         return m_storage.data() + m_count;
     }

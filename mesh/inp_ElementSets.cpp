@@ -93,9 +93,8 @@ inpM_SetHandle inp_ElementVisitor::ReadAssyElsetIdsAndSetNames(inpM_SetMap const
                                                                inp_Keyword const& keyword,
                                                                bool internal, bool unsorted) {
     cow_List<atr_String> const saved = m_errors;
-    inpM_SetHandle const set = unsorted
-                                   ? ReadUnsortedAssemblyIdsAndSetNames(sets, keyword, internal)
-                                   : ReadAssemblyIdsAndSetNames(sets, keyword, internal);
+    inpM_SetHandle set = unsorted ? ReadUnsortedAssemblyIdsAndSetNames(sets, keyword, internal)
+                                  : ReadAssemblyIdsAndSetNames(sets, keyword, internal);
     if (m_errors.Length() > saved.Length()) {
         m_unresolvedElsets.Append(keyword);
         m_errors = saved;

@@ -90,7 +90,7 @@ cow_String parameterText(inp_Keyword const& keyword, char const* name) {
 // The kind of surface the keyword asks for: any TYPE but these counts as
 // "ELEMENT".
 cow_String surfaceKind(inp_Keyword const& keyword) {
-    cow_String const type = keyword.GetParameterAsString("type", "ELEMENT");
+    cow_String type = keyword.GetParameterAsString("type", "ELEMENT");
     if (type == "NODE" || type == "EULERIANMATERIAL" || type == "XFEM" ||
         inp_Utils::IsAnalyticalSurfaceType(type))
         return type;
