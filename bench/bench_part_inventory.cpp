@@ -98,3 +98,5 @@ void BM_OutOfPlaceTenThousandParts(benchmark::State& state) {
 BENCHMARK(BM_OutOfPlaceTenThousandParts)->Unit(benchmark::kMillisecond);
 
 }  // namespace
+
+BENCHMARK_MAIN();
