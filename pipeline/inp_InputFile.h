@@ -74,6 +74,22 @@ class inp_InputFile {
     // misplaced keywords are reported and left out.
     void Reorganize();
 
+    // The model maps of a deck in parts and an assembly. ExtractPartMaps
+    // reads the mesh of every part (PartCoordMap, PartElementMap,
+    // PartNsets, PartElsets, PartSurfaces) and then releases the data lines
+    // of the mesh keywords inside parts. ExtractAssemblyMaps gives each
+    // instance its part's mesh by shared copies under its transform, and
+    // reads the keywords of the assembly and the instances (AssemblyCoordMap,
+    // AssemblyElementMap, AssemblyNsets, AssemblyElsets, AssemblySurfaces,
+    // TransformationMap). `atelierCompatible`: the deck's reader is the
+    // interactive pre-processor, which reads the keywords' data itself.
+    void ExtractPartMaps(bool atelierCompatible);
+    void ExtractAssemblyMaps(bool atelierCompatible);
+    // The rules of what parts may hold and where node and element data may
+    // stand (the part inventory); then, for a parts deck, the part element
+    // tables are emptied: the instances hold what they need of them.
+    void CheckOutOfPlace();
+
     // Writes the keyword list back as deck text, suboptions below their parent.
     void Print(eli_eostream& out) const;
     void Print(aio_ostream& out) const;
@@ -157,6 +173,8 @@ class inp_InputFile {
 
     // The parse stage of the road: Parse of the deck that Run was given.
     void parseStage() { Parse(m_fileName); }
+    void extractPartMapsStage();
+    void extractAssemblyMapsStage();
 
     cow_List<inp_Keyword> m_assemblyElementKeywords;
     cow_List<inp_Keyword> m_keywords;

@@ -26,6 +26,10 @@ struct inp_InputFileOptions {
     // Stages remove the records they blanked from the keyword list; false
     // keeps them in place (a scripting caller sees every record read).
     bool discardBlankedKeywords = true;
+    // The deck is read for the interactive pre-processor, which reads the
+    // keywords' data itself: the extraction keeps the data lines of parts,
+    // and the mesh readers keep its conventions (an empty connector field).
+    bool atelierCompatible = false;
 
     // The options of a new job of the host: the defaults above, with the
     // results format taken from the host's command line (`resultsFormat`;

@@ -9,13 +9,16 @@
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
 
-// A friend of inp_InputFile, so that the table may name its private parse stage.
+// A friend of inp_InputFile, so that the table may name its private stages.
 struct inp_RoadTable {
     // In road order, each at the index of its enumerator.
     static constexpr inp_StageInfo kStages[] = {
         {inp_Stage::Parse, "parse", &inp_InputFile::parseStage},
         {inp_Stage::Expand, "expand", &inp_InputFile::ExpandKeywords},
         {inp_Stage::Organize, "organize", &inp_InputFile::Reorganize},
+        {inp_Stage::PartMaps, "part-maps", &inp_InputFile::extractPartMapsStage},
+        {inp_Stage::AssemblyMaps, "assembly-maps", &inp_InputFile::extractAssemblyMapsStage},
+        {inp_Stage::OutOfPlace, "out-of-place", &inp_InputFile::CheckOutOfPlace},
     };
 };
 

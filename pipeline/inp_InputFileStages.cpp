@@ -4,19 +4,15 @@
 #include "expansion/inp_KeywordExpansionVisitor.h"
 #include "pipeline/inp_InputFile.h"
 #include "pipeline/inp_OrganizerVisitor.h"
+#include "pipeline/inp_StageTime.h"
 #include "support/omi_Timer.h"
 #include "support/pnt_PrettyPrint.h"
 #include "support/thr_Singleton.h"
 #include "support/typ_DebugFlags.h"
 #include "support/wip_WIP.h"
 
-namespace {
-
-constexpr int kDebugFlag = 30;
-
-// Prints a stage's time at debug level 1 or more: its label, the elapsed
-// seconds, then the CPU seconds.
-void printStageTime(char const* label, omi_Timer& timer) {
+void inp_PrintStageTime(char const* label, omi_Timer& timer) {
+    constexpr int kDebugFlag = 30;
     timer.Stop();
     if (typ_DebugFlags::GetDebugFlags(kDebugFlag) < 1) return;
     pnt_debugPrint().StartDebug(__FILE__, __LINE__);
@@ -24,8 +20,6 @@ void printStageTime(char const* label, omi_Timer& timer) {
                      << "  CPU time: " << timer.GetTotalCpuTime();
     pnt_debugPrint().EndDebug();
 }
-
-}  // namespace
 
 void inp_InputFile::ExpandKeywords() {
     omi_Timer timer;
@@ -65,7 +59,7 @@ void inp_InputFile::ExpandKeywords() {
     }
 
     if (m_options.discardBlankedKeywords) DiscardEmptyKeywords();
-    printStageTime("Expand Keywords - Elapsed time: ", timer);
+    inp_PrintStageTime("Expand Keywords - Elapsed time: ", timer);
 }
 
 void inp_InputFile::Reorganize() {
@@ -76,5 +70,5 @@ void inp_InputFile::Reorganize() {
     organizer.VisitListAndReport(m_keywords);
     m_keywords = organizer.Keywords();
     if (m_options.discardBlankedKeywords) DiscardEmptyKeywords();
-    printStageTime("Reorganize - Elapsed time: ", timer);
+    inp_PrintStageTime("Reorganize - Elapsed time: ", timer);
 }

@@ -3,9 +3,12 @@
 // Each stage relies on a sound result of the ones before it.
 
 enum class inp_Stage : int {
-    Parse,     // the deck's lines into a flat keyword list, include files spliced in
-    Expand,    // every keyword checked and normalised by its vocabulary
-    Organize,  // the flat list made a tree of keywords and their suboptions
+    Parse,         // the deck's lines into a flat keyword list, include files spliced in
+    Expand,        // every keyword checked and normalised by its vocabulary
+    Organize,      // the flat list made a tree of keywords and their suboptions
+    PartMaps,      // a parts deck: the mesh of every part read into maps
+    AssemblyMaps,  // a parts deck: the instances placed, the assembly's mesh read
+    OutOfPlace,    // what parts hold and where node and element data stand
 };
 
 class inp_InputFile;

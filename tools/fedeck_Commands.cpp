@@ -17,6 +17,9 @@
 
 namespace {
 
+// The stage after which `tree` writes the keywords unless told otherwise.
+constexpr char const* kTreeStage = "organize";
+
 int lastStageToRun(std::string const& until) {
     if (until.empty()) return static_cast<int>(fedeck_Pipeline::Stages().size()) - 1;
     int const stage = fedeck_Pipeline::Find(until);
@@ -74,9 +77,13 @@ int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
 }
 
 // The keyword list goes out even when the deck has errors: what could be read
-// is often what the user wants to see.
+// is often what the user wants to see. By default the road stops once the
+// tree is made: the extraction stages after it release the data lines of the
+// mesh keywords of parts into the maps, and a tree written after them would
+// lack the mesh.
 int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
-    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
+    CheckedDeck const checked(
+        arguments, lastStageToRun(arguments.until.empty() ? kTreeStage : arguments.until));
     fedeck_Report const report = checked.Report();
     report.WriteDiagnostics(err);
     inp_DeckWriter(out).Write(checked.Deck().Keywords());
@@ -143,10 +150,11 @@ std::string fedeck_UsageText() {
            "           Further lines of a message are indented by four blanks. A stage\n"
            "           that ends with errors ends the run; the summary then adds\n"
            "           \"(stopped after STAGE)\".\n"
-           "  tree     Runs the stages on DECK (up to STAGE) and writes its keywords\n"
-           "           back as deck text to standard output, text that reads back to\n"
-           "           the same keywords; diagnostics go to standard error. Data lines\n"
-           "           read from an encrypted file are not shown.\n"
+           "  tree     Runs the stages on DECK up to STAGE (default: organize) and\n"
+           "           writes its keywords back as deck text to standard output, text\n"
+           "           that reads back to the same keywords; diagnostics go to standard\n"
+           "           error. Data lines read from an encrypted file are not shown, nor\n"
+           "           those of the mesh of parts after part-maps (the maps hold them).\n"
            "  encrypt  Writes IN enciphered to OUT, an include file that a deck reads\n"
            "           with *INCLUDE, INPUT=OUT, PASSWORD=P.\n"
            "\n"

@@ -123,7 +123,8 @@ TEST_F(FedeckProgram, UsageErrorsExitWithTwoAndUsageOnStandardError) {
         {{"tree", "--json", "deck.inp"}, "fedeck: option '--json' does not apply to 'tree'\n"},
         {{"encrypt", "a", "b"}, "fedeck: 'encrypt' needs a non-empty --password\n"},
         {{"check", "--until", "mesh", "deck.inp"},
-         "fedeck: unknown stage 'mesh'; known stages: parse, expand, organize\n"},
+         "fedeck: unknown stage 'mesh'; known stages: parse, expand, organize, part-maps, "
+         "assembly-maps, out-of-place\n"},
     };
     for (auto const& [arguments, message] : cases) {
         Outcome const result = run(arguments);
