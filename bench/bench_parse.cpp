@@ -1,10 +1,13 @@
 // Parsing whole decks through inp_InputFile::Parse, and the first stages
-// after it (Parse, ExpandKeywords, Reorganize): throughput and the peak
-// memory they add.
+// after it (Parse, ExpandKeywords, Reorganize), and for decks in parts the
+// whole road through the extraction of the model maps: throughput and the
+// peak memory they add.
 //
 // The decks are generated once into a temporary directory that is removed at
 // exit: a flat block of N^3 bricks (N = 100 by default, about 110 MB), a
-// small flat block, and a part of (N/2)^3 bricks placed as ten instances.
+// small flat block, and a part of (N/2)^3 bricks placed as one, ten and a
+// hundred instances (instances share their part's mesh: the peak memory of
+// the hundred should stay near that of the one).
 // FEDECK_BENCH_SIZE=N sets N for quick runs.
 //
 // Counters: MB/s (decimal megabytes of deck per second of wall time),
@@ -64,7 +67,7 @@ class DeckDirectory {
 };
 
 // How far down the pipeline a benchmark runs.
-enum class Stages { ParseOnly, ThroughOrganize, Count };
+enum class Stages { ParseOnly, ThroughOrganize, ThroughExtraction, Count };
 
 struct Deck {
     std::string path;
@@ -74,6 +77,10 @@ struct Deck {
 };
 
 void runStages(inp_InputFile& input, cow_String const& path, Stages stages) {
+    if (stages == Stages::ThroughExtraction) {
+        input.Run(path, inp_Stage::OutOfPlace, inp_InputFile::RunRule::RunThrough);
+        return;
+    }
     input.Parse(path);
     if (stages == Stages::ParseOnly) return;
     input.ExpandKeywords();
@@ -183,14 +190,26 @@ std::string caseName(inp_DeckLayout const& layout) {
 
 // One parse of the big deck takes a large fraction of a second: a fixed small
 // iteration count, repeated, gives a median without minutes of waiting.
+char const* stageLabel(Stages stages) {
+    switch (stages) {
+        case Stages::ParseOnly:
+            return "Parse/";
+        case Stages::ThroughOrganize:
+            return "ParseExpandOrganize/";
+        default:
+            return "ThroughExtraction/";
+    }
+}
+
 void registerCase(DeckDirectory const& directory, std::map<std::string, Deck>& decks,
                   inp_DeckLayout const& layout, int iterations) {
     std::string const name = caseName(layout);
     Deck& deck = decks[name];
     deck.path = directory.Path(name + ".inp");
     deck.megabytes = static_cast<double>(inp_WriteDeck(layout, deck.path)) / 1e6;
-    for (Stages stages : {Stages::ParseOnly, Stages::ThroughOrganize}) {
-        std::string const label = stages == Stages::ParseOnly ? "Parse/" : "ParseExpandOrganize/";
+    for (Stages stages : {Stages::ParseOnly, Stages::ThroughOrganize, Stages::ThroughExtraction}) {
+        if (stages == Stages::ThroughExtraction && layout.instances == 0) continue;
+        std::string const label = stageLabel(stages);
         benchmark::RegisterBenchmark((label + name).c_str(), BM_Stages, &deck, stages)
             ->Unit(benchmark::kMillisecond)
             ->UseRealTime()
@@ -211,7 +230,9 @@ int main(int argc, char** argv) {
     int const part = std::max(size / 2, 1);
     registerCase(directory, decks, {.nx = size, .ny = size, .nz = size}, 2);
     if (size > small) registerCase(directory, decks, {.nx = small, .ny = small, .nz = small}, 20);
-    registerCase(directory, decks, {.nx = part, .ny = part, .nz = part, .instances = 10}, 5);
+    for (int instances : {1, 10, 100})
+        registerCase(directory, decks, {.nx = part, .ny = part, .nz = part, .instances = instances},
+                     5);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -109,7 +109,7 @@ cow_List<inp_Keyword> parse(ScratchDirectory const& files, bool strict, bool bul
 }
 
 // The library's road through organization, with the mesh walks over the
-// expanded list. The message sink is put back as
+// expanded list and the extraction stages over the tree. The message sink is put back as
 // it was afterwards, so that the diagnostics of every input don't pile up;
 // they are read once on the way, as a caller would.
 void runTheRoad(ScratchDirectory const& files) {
@@ -122,6 +122,7 @@ void runTheRoad(ScratchDirectory const& files) {
     // flat deck will; then the road goes on.
     std::size_t const made = static_cast<std::size_t>(RunMeshWalks(input.GetKeywords()));
     input.Reorganize();
+    RunExtractionStages(input);
     cow_List<inp_Keyword> const& tree = input.Keywords();
     std::size_t cells = walk(tree) + made;
     for (inp_Keyword const& keyword : tree) cells += walk(keyword.Suboptions());

@@ -8,6 +8,7 @@
 #include "mesh/inp_ElementVisitor.h"
 #include "mesh/inp_NodeGenerationVisitor.h"
 #include "mesh/inp_NodeVisitor.h"
+#include "pipeline/inp_InputFile.h"
 #include "tests/mesh/SurfaceVisitorForTests.h"
 
 // The number of nodes, elements and surfaces made, so that a caller can
@@ -30,4 +31,13 @@ inline int RunMeshWalks(cow_List<inp_Keyword>& keywords) {
         made += elements.ConstGetElementMap().ConstGet().Size();
     made += surfaces.ConstGetSurfaceMap().ConstGetAssemblyInstanceSurfaceMap().Size();
     return made;
+}
+
+// The extraction stages over an organized deck, called directly so that they
+// run whatever the deck is made of (the road runs the map extraction for
+// decks in parts only).
+inline void RunExtractionStages(inp_InputFile& input) {
+    input.ExtractPartMaps(false);
+    input.ExtractAssemblyMaps(false);
+    input.CheckOutOfPlace();
 }

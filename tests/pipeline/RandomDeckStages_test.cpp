@@ -1,7 +1,7 @@
 // Decks of random keywords in random order, with random parameters and data,
-// must go through parsing, expansion and organization, and the mesh walks
-// (elements, nodes, implicit nodes, surfaces) over the expanded list, with
-// diagnostics only:
+// must go through parsing, expansion and organization, the mesh walks
+// (elements, nodes, implicit nodes, surfaces) over the expanded list, and the
+// extraction stages over the tree, with diagnostics only:
 // no exception, no crash, no memory fault (the suite also runs under the
 // address and undefined-behaviour sanitizers).
 
@@ -34,6 +34,7 @@ TEST(RandomDeckStages, RandomDecksGoThroughParseExpansionAndOrganizationWithDiag
             input.ExpandKeywords();
             RunMeshWalks(input.GetKeywords());
             input.Reorganize();
+            RunExtractionStages(input);
         }) << "seed "
            << seed;
         for (inp_Keyword const& keyword : input.Keywords())
@@ -62,6 +63,8 @@ TEST(RandomDeckStages, RandomMeshDecksGoThroughTheMeshWalksWithDiagnosticsOnly) 
         ASSERT_NO_THROW({
             input.Run(path, inp_Stage::Expand, inp_InputFile::RunRule::RunThrough);
             made += RunMeshWalks(input.GetKeywords());
+            input.Reorganize();
+            RunExtractionStages(input);
         }) << "seed "
            << seed;
     }
