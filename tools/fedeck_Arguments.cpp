@@ -14,6 +14,7 @@ struct CommandForm {
 constexpr CommandForm kCommands[] = {
     {"check", fedeck_Command::Check, 1, "DECK"},
     {"tree", fedeck_Command::Tree, 1, "DECK"},
+    {"model", fedeck_Command::Model, 1, "DECK"},
     {"encrypt", fedeck_Command::Encrypt, 2, "IN and OUT"},
 };
 
@@ -51,6 +52,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
         case fedeck_Command::Check:
             return option == "--include-dir" || option == "--until" || option == "--json";
         case fedeck_Command::Tree:
+        case fedeck_Command::Model:
             return option == "--include-dir" || option == "--until";
         case fedeck_Command::Encrypt:
             return option == "--password";

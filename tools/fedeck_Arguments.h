@@ -11,7 +11,7 @@ class fedeck_UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-enum class fedeck_Command { Help, Version, Check, Tree, Encrypt };
+enum class fedeck_Command { Help, Version, Check, Tree, Model, Encrypt };
 
 struct fedeck_Arguments {
     fedeck_Command command = fedeck_Command::Help;
@@ -19,7 +19,7 @@ struct fedeck_Arguments {
     std::string until;  // empty: run every stage
     bool json = false;
     std::string password;
-    // DECK for check and tree; IN and OUT for encrypt.
+    // DECK for check, tree and model; IN and OUT for encrypt.
     std::vector<std::string> operands;
 };
 

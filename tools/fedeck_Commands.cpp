@@ -12,6 +12,7 @@
 #include "support/wip_WIP.h"
 #include "tools/fedeck_Arguments.h"
 #include "tools/fedeck_Encrypt.h"
+#include "tools/fedeck_Model.h"
 #include "tools/fedeck_Pipeline.h"
 #include "tools/fedeck_Report.h"
 
@@ -90,6 +91,19 @@ int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& er
     return exitStatusOf(report);
 }
 
+// The maps go out even when the deck has errors, as far as the stages that
+// ran built them: a script sees what the deck came to and where it stopped.
+int runModel(fedeck_Arguments const& arguments, aio_ostream& out) {
+    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
+    fedeck_Report const report = checked.Report();
+    out.put('{');
+    report.WriteJsonFields(out);
+    out.print(", ");
+    fedeck_WriteModelFields(out, checked.Deck());
+    out.print("}\n");
+    return exitStatusOf(report);
+}
+
 int runCommand(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
     switch (arguments.command) {
         case fedeck_Command::Help:
@@ -102,6 +116,8 @@ int runCommand(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream&
             return runCheck(arguments, out);
         case fedeck_Command::Tree:
             return runTree(arguments, out, err);
+        case fedeck_Command::Model:
+            return runModel(arguments, out);
         case fedeck_Command::Encrypt:
             return fedeck_Encrypt(arguments.operands[0], arguments.operands[1], arguments.password,
                                   err);
@@ -134,6 +150,7 @@ std::string fedeck_UsageText() {
     return "Usage:\n"
            "  fedeck check [--include-dir DIR] [--until STAGE] [--json] DECK\n"
            "  fedeck tree  [--include-dir DIR] [--until STAGE] DECK\n"
+           "  fedeck model [--include-dir DIR] [--until STAGE] DECK\n"
            "  fedeck encrypt --password P IN OUT\n"
            "  fedeck help | --help\n"
            "  fedeck version | --version\n"
@@ -155,6 +172,11 @@ std::string fedeck_UsageText() {
            "           that reads back to the same keywords; diagnostics go to standard\n"
            "           error. Data lines read from an encrypted file are not shown, nor\n"
            "           those of the mesh of parts after part-maps (the maps hold them).\n"
+           "  model    Runs the stages on DECK up to STAGE and prints one JSON object:\n"
+           "           the members of check --json, then \"partsAndAssembly\",\n"
+           "           \"fakePartModel\", \"parts\" and \"assembly\", the model maps as\n"
+           "           far as the stages built them (see README.md). Exit status as\n"
+           "           for check.\n"
            "  encrypt  Writes IN enciphered to OUT, an include file that a deck reads\n"
            "           with *INCLUDE, INPUT=OUT, PASSWORD=P.\n"
            "\n"
@@ -169,7 +191,9 @@ std::string fedeck_UsageText() {
            "[{\"severity\",\n"
            "                     \"level\", \"text\", \"file\", \"line\", \"keyword\"}], "
            "\"includedFiles\",\n"
-           "                     \"missingIncludeFiles\"}; \"stage\" is the last stage that\n"
+           "                     \"missingIncludeFiles\", \"counts\": {\"parts\", \"instances\",\n"
+           "                     \"nodes\", \"elements\", \"nodeSets\", \"elementSets\",\n"
+           "                     \"surfaces\"}}; \"stage\" is the last stage that\n"
            "                     ran, \"level\" is null for warnings, \"file\", \"line\" and\n"
            "                     \"keyword\" are null where unknown\n"
            "  --password P       password of the encrypted file (not empty)\n"

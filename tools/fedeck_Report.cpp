@@ -113,7 +113,8 @@ fedeck_Report::fedeck_Report(cow_String deckPath, std::string_view stage, bool s
       m_keywordCount(countKeywords(deck.Keywords())),
       m_diagnostics(diagnostics),
       m_includedFiles(deck.GetIncludedFiles()),
-      m_missingIncludeFiles(deck.GetMissingIncludeFiles()) {
+      m_missingIncludeFiles(deck.GetMissingIncludeFiles()),
+      m_counts(fedeck_CountModel(deck)) {
     for (wip_Diagnostic const& diagnostic : m_diagnostics)
         if (diagnostic.IsError()) ++m_errorCount;
 }
@@ -145,7 +146,13 @@ void fedeck_Report::WriteSummary(aio_ostream& out) const {
 }
 
 void fedeck_Report::WriteJson(aio_ostream& out) const {
-    out.print("{\"deck\": ");
+    out.put('{');
+    WriteJsonFields(out);
+    out.print("}\n");
+}
+
+void fedeck_Report::WriteJsonFields(aio_ostream& out) const {
+    out.print("\"deck\": ");
     fedeck_WriteJsonString(out, m_deckPath.View());
     out.print(", \"stage\": ");
     fedeck_WriteJsonString(out, m_stage);
@@ -159,5 +166,6 @@ void fedeck_Report::WriteJson(aio_ostream& out) const {
     writeJsonStrings(out, m_includedFiles);
     out.print(", \"missingIncludeFiles\": ");
     writeJsonStrings(out, m_missingIncludeFiles);
-    out.print("}\n");
+    out.print(", \"counts\": ");
+    fedeck_WriteModelCounts(out, m_counts);
 }

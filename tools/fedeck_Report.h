@@ -8,6 +8,7 @@
 #include "support/cow_List.h"
 #include "support/cow_String.h"
 #include "support/wip_WIP.h"
+#include "tools/fedeck_Model.h"
 
 class aio_ostream;
 class inp_InputFile;
@@ -37,8 +38,12 @@ class fedeck_Report {
     // {"deck": s, "stage": s, "keywords": n, "diagnostics": [{"severity":
     // "warning"|"error", "level": n|null, "text": s, "file": s|null, "line":
     // n|null, "keyword": s|null}, ...], "includedFiles": [s, ...],
-    // "missingIncludeFiles": [s, ...]}
+    // "missingIncludeFiles": [s, ...], "counts": {"parts": n, "instances": n,
+    // "nodes": n, "elements": n, "nodeSets": n, "elementSets": n, "surfaces": n}}
     void WriteJson(aio_ostream& out) const;
+    // The members of that object without its braces and line break, for an
+    // object that carries more (the model).
+    void WriteJsonFields(aio_ostream& out) const;
 
   private:
     void writeDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) const;
@@ -50,5 +55,6 @@ class fedeck_Report {
     std::vector<wip_Diagnostic> const& m_diagnostics;
     cow_List<cow_String> m_includedFiles;
     cow_List<cow_String> m_missingIncludeFiles;
+    fedeck_ModelCounts m_counts;
     int m_errorCount = 0;
 };

@@ -104,6 +104,8 @@ TEST(CheckReportJson, DiagnosticsKeepArrivalOrderAndWarningsHaveNoLevel) {
               R"("file": null, "line": null, "keyword": null}, )"
               R"({"severity": "error", "level": 1, "text": "line1\u000aline2", )"
               R"("file": null, "line": null, "keyword": null}], )"
-              R"("includedFiles": [], "missingIncludeFiles": []})"
+              R"("includedFiles": [], "missingIncludeFiles": [], )"
+              R"("counts": {"parts": 0, "instances": 0, "nodes": 0, "elements": 0, )"
+              R"("nodeSets": 0, "elementSets": 0, "surfaces": 0}})"
               "\n");
 }

@@ -122,6 +122,15 @@ TEST_F(FedeckProgram, UsageErrorsExitWithTwoAndUsageOnStandardError) {
         {{"check", "deck.inp", "--include-dir"}, "fedeck: option '--include-dir' needs a value\n"},
         {{"tree", "--json", "deck.inp"}, "fedeck: option '--json' does not apply to 'tree'\n"},
         {{"encrypt", "a", "b"}, "fedeck: 'encrypt' needs a non-empty --password\n"},
+        {{"model"}, "fedeck: 'model' needs DECK\n"},
+        {{"model", "deck.inp", "other.inp"}, "fedeck: 'model' needs DECK\n"},
+        {{"model", "--json", "deck.inp"}, "fedeck: option '--json' does not apply to 'model'\n"},
+        {{"model", "--password=p", "deck.inp"},
+         "fedeck: option '--password' does not apply to 'model'\n"},
+        {{"model", "deck.inp", "--until"}, "fedeck: option '--until' needs a value\n"},
+        {{"model", "--until=mesh", "deck.inp"},
+         "fedeck: unknown stage 'mesh'; known stages: parse, expand, organize, part-maps, "
+         "assembly-maps, out-of-place\n"},
         {{"check", "--until", "mesh", "deck.inp"},
          "fedeck: unknown stage 'mesh'; known stages: parse, expand, organize, part-maps, "
          "assembly-maps, out-of-place\n"},
@@ -152,7 +161,9 @@ TEST_F(FedeckProgram, CleanDeckSucceedsWithSummaryAndJson) {
     EXPECT_EQ(json.status, 0);
     EXPECT_EQ(json.out,
               R"({"deck": "deck.inp", "stage": "parse", "keywords": 2, "diagnostics": [], )"
-              R"("includedFiles": [], "missingIncludeFiles": []})"
+              R"("includedFiles": [], "missingIncludeFiles": [], )"
+              R"("counts": {"parts": 0, "instances": 0, "nodes": 0, "elements": 0, )"
+              R"("nodeSets": 0, "elementSets": 0, "surfaces": 0}})"
               "\n");
 }
 
@@ -250,7 +261,7 @@ TEST_F(FedeckProgram, MissingIncludeIsFatalAndListed) {
     Outcome const found = run({"check", "--json", "--include-dir", "inc", "deck.inp"});
     EXPECT_EQ(found.status, 1);
     EXPECT_NE(
-        found.out.find(R"("includedFiles": ["part.inp"], "missingIncludeFiles": ["gone.inp"]})"),
+        found.out.find(R"("includedFiles": ["part.inp"], "missingIncludeFiles": ["gone.inp"], )"),
         std::string::npos)
         << found.out;
     Outcome const text = run({"check", "deck.inp"});
