@@ -151,3 +151,28 @@ TEST_F(ExtractionStages, DataInBothAPartAndItsInstanceIsReportedAndTheMapsKeepWh
     EXPECT_TRUE(input.AssemblyCoordMap().ConstGet("FIXED").IsMember(99));
     EXPECT_TRUE(input.AssemblyCoordMap().ConstGet("FIXED").IsMember(1));
 }
+
+// Instances share their part's mesh until one of them writes: a set or a
+// surface made inside one instance is that instance's alone.
+TEST_F(ExtractionStages, AWriteInsideOneInstanceShowsNowhereElse) {
+    std::string deck = kPartsDeck;
+    std::string const moved = "*INSTANCE, NAME=MOVED, PART=BRICK\n10., 0., 0.\n";
+    deck.replace(deck.find(moved), moved.size(),
+                 moved +
+                     "*NSET, NSET=CORNER\n7\n*ELSET, ELSET=ONE\n1\n"
+                     "*SURFACE, NAME=BOTTOM\nALL, S1\n");
+    inp_InputFile input;
+    run(input, deck, inp_Stage::OutOfPlace);
+    EXPECT_EQ(diagnostics(), "");
+    EXPECT_TRUE(input.AssemblyNsets().HasNestedSet("MOVED", "CORNER"));
+    EXPECT_TRUE(input.AssemblyElsets().HasNestedSet("MOVED", "ONE"));
+    EXPECT_TRUE(input.AssemblySurfaces().IsMemberPartInstanceSurface("MOVED", "BOTTOM"));
+    EXPECT_FALSE(input.AssemblyNsets().HasNestedSet("FIXED", "CORNER"));
+    EXPECT_FALSE(input.AssemblyElsets().HasNestedSet("FIXED", "ONE"));
+    EXPECT_FALSE(input.AssemblySurfaces().IsMemberPartInstanceSurface("FIXED", "BOTTOM"));
+    EXPECT_FALSE(input.PartNsets().HasNestedSet("BRICK", "CORNER"));
+    EXPECT_FALSE(input.PartElsets().HasNestedSet("BRICK", "ONE"));
+    EXPECT_FALSE(input.PartSurfaces().IsMemberPartInstanceSurface("BRICK", "BOTTOM"));
+    // The sets the instance had from its part are still there, and shared.
+    EXPECT_TRUE(input.AssemblyNsets().HasNestedSet("MOVED", "BASE"));
+}
