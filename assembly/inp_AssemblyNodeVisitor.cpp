@@ -91,7 +91,28 @@ void inp_AssemblyNodeVisitor::VisitInstance(inp_Keyword& keyword) {
     m_transformationMap.Insert(instance, m_instanceTransform);
 }
 
+// The values of a transform line that are neither numbers nor empty: they
+// would read as 0 and move the instance somewhere the user did not say.
+void inp_AssemblyNodeVisitor::checkTransformLine(inp_Keyword const& keyword, int row, int count) {
+    inp_DataArray const& data = keyword.Data();
+    int const columns = data.Cols(row) < count ? data.Cols(row) : count;
+    cow_List<cow_String> bad;
+    for (int j = 0; j < columns; ++j) {
+        inp_Types::typeEnm const type = data.Type(row, j);
+        if (type != inp_Types::inp_INTEGER && type != inp_Types::inp_REAL &&
+            type != inp_Types::inp_NONE)
+            bad.Append(data.AsStringVerbatim(row, j));
+    }
+    if (bad.IsEmpty()) return;
+    AddError(inp_Utils::MessageInKeyword(
+        keyword,
+        atr("The position of an instance is given by numbers; these values are not numbers "
+            "and are read as 0"),
+        bad));
+}
+
 void inp_AssemblyNodeVisitor::readTranslation(inp_Keyword const& keyword) {
+    checkTransformLine(keyword, 0, 3);
     gsl_Point const offset = ReadPointFromKeywordData(keyword, 0, 0);
     m_instanceTransform.SetTranslation(offset);
 }
@@ -102,6 +123,7 @@ void inp_AssemblyNodeVisitor::readTranslation(inp_Keyword const& keyword) {
 // sines and cosines of whole quarter turns to exact values, which keeps half
 // turns exact.
 void inp_AssemblyNodeVisitor::readRotation(inp_Keyword const& keyword) {
+    checkTransformLine(keyword, 1, 7);
     gsl_Point const a = ReadPointFromKeywordData(keyword, 1, 0);
     gsl_Point const b = ReadPointFromKeywordData(keyword, 1, 3);
     double const radians = NumberAt(keyword.Data(), 1, 6) * std::numbers::pi / 180.0;

@@ -52,6 +52,9 @@ class inp_AssemblyNodeVisitor : public inp_NodeVisitor {
 
   private:
     bool isImported(cow_String const& instance) const;
+    // Reports the values among the first `count` of data line `row` that
+    // are not numbers.
+    void checkTransformLine(inp_Keyword const& keyword, int row, int count);
     // Line 1 of *INSTANCE into the transform.
     void readTranslation(inp_Keyword const& keyword);
     // Line 2 of *INSTANCE, behind the translation.

@@ -176,3 +176,22 @@ TEST_F(ExtractionStages, AWriteInsideOneInstanceShowsNowhereElse) {
     // The sets the instance had from its part are still there, and shared.
     EXPECT_TRUE(input.AssemblyNsets().HasNestedSet("MOVED", "BASE"));
 }
+
+TEST_F(ExtractionStages, TransformValuesThatAreNoNumbersAreToldAndReadAsZero) {
+    std::string deck = kPartsDeck;
+    std::string const line = "*INSTANCE, NAME=MOVED, PART=BRICK\n10., 0., 0.\n";
+    deck.replace(deck.find(line), line.size(),
+                 "*INSTANCE, NAME=MOVED, PART=BRICK\nten, 0., 0.\n0., 0., 0., 0., 0., 1., "
+                 "ninety\n");
+    inp_InputFile input;
+    run(input, deck, inp_Stage::OutOfPlace);
+    std::string const text = diagnostics();
+    std::string const message =
+        "The position of an instance is given by numbers; these values are not numbers and are "
+        "read as 0:\n";
+    EXPECT_NE(text.find(message + "ten\n"), std::string::npos) << text;
+    EXPECT_NE(text.find(message + "ninety\n"), std::string::npos) << text;
+    // The rest of the model is built, the instance where the numbers put it.
+    EXPECT_DOUBLE_EQ(input.AssemblyCoordMap().ConstGet("MOVED").ConstGet(2).x, 1.0);
+    EXPECT_TRUE(input.AssemblyElementMap().IsMember("FIXED"));
+}
