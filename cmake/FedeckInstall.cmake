@@ -23,6 +23,9 @@ set(FEDECK_PUBLIC_HEADER_ROOTS
   mesh/inp_ElementVisitor.h
   mesh/inp_NodeGenerationVisitor.h
   mesh/inp_SurfaceVisitor.h
+  assembly/inp_AssyLevelElemVisitor.h
+  assembly/inp_CollectRefNodesVisitor.h
+  assembly/inp_CollectTransformedNodesVisitor.h
   mesh/inp_CoordMap.h
   mesh/inp_MapInt2Element.h
   mesh/inp_Utils.h
