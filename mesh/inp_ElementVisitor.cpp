@@ -1,7 +1,5 @@
 #include "mesh/inp_ElementVisitor.h"
 
-#include <algorithm>
-
 #include "mesh/inp_Utils.h"
 #include "support/inpM_Set.h"
 
@@ -36,17 +34,11 @@ bool inp_ElementVisitor::CheckExistenceOfOldSet(cow_String const& name, cow_Stri
     return CheckExistenceOfSet(name, scope, m_setMap, m_searchAssembly);
 }
 
+// The visitor's reflection table is loaded from the same rows as the one
+// the element types keep for the process.
 void inp_ElementVisitor::RenumberTopologyDueToReflection(cow_String const& type,
                                                          cow_List<int>& nodes) const {
-    // A list is not one block beyond its first few entries: the reordering
-    // works on a copy in an array.
-    int buffer[inp_ReflectionRow::kMaxPositions];
-    int const count = std::min(nodes.Length(), inp_ReflectionRow::kMaxPositions);
-    std::copy_n(nodes.begin(), count, buffer);
-    inp_ElementTypes::RenumberTopologyDueToReflection(m_types.ReflectionTable().ConstGet(type),
-                                                      buffer, count);
-    for (int i = 0; i < count; ++i)
-        if (nodes.ConstGet(i) != buffer[i]) nodes.Get(i) = buffer[i];
+    inp_ElementTypes::RenumberTopologyDueToReflection(type, nodes);
 }
 
 inp_MapInt2Element& inp_ElementVisitor::targetTable() {

@@ -1,7 +1,6 @@
 #include "tools/fedeck_Model.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <string_view>
 #include <vector>
@@ -149,9 +148,7 @@ class ModelWriter {
             m_out.print("null");
             return;
         }
-        char text[32];
-        std::to_chars_result const written = std::to_chars(text, text + sizeof text, value);
-        m_out.print(std::string_view(text, static_cast<size_t>(written.ptr - text)));
+        m_out.print_double(value);
     }
 
     void writePart(cow_String const& part) {
