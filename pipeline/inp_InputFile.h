@@ -73,6 +73,21 @@ class inp_InputFile {
     // Makes the flat keyword list a tree of keywords and their suboptions;
     // misplaced keywords are reported and left out.
     void Reorganize();
+    // Name hygiene. The period separates the pieces of a scoped name
+    // (instance.name), so the names a deck defines may not hold one
+    // outside quotes: the first offender is reported as an error, and the
+    // check ends there. Runs on `keywords` and their suboptions.
+    void ProhibitPeriodInNames(cow_List<inp_Keyword> const& keywords);
+    // A flat deck, before it becomes a part: periods in the set, surface,
+    // distribution, orientation, rebar and material names it refers to
+    // become underscores. `fullFakeParts`: the part is to be built in full,
+    // as the interactive pre-processor reads it.
+    void RemovePeriods(bool fullFakeParts);
+    // A deck of parts, after organization: references written with the
+    // assembly's name in front (assembly.instance.name) lose that piece.
+    // The first form takes the name of the first *ASSEMBLY of the list.
+    void ModifyScopedNames();
+    void ModifyScopedNames(cow_String const& assemblyName);
 
     // The model maps of a deck in parts and an assembly. ExtractPartMaps
     // reads the mesh of every part (PartCoordMap, PartElementMap,
@@ -173,6 +188,8 @@ class inp_InputFile {
 
     // The parse stage of the road: Parse of the deck that Run was given.
     void parseStage() { Parse(m_fileName); }
+    void namesStage() { ProhibitPeriodInNames(m_keywords); }
+    void scopedNamesStage();
     void extractPartMapsStage();
     void extractAssemblyMapsStage();
 

@@ -15,7 +15,9 @@ struct inp_RoadTable {
     static constexpr inp_StageInfo kStages[] = {
         {inp_Stage::Parse, "parse", &inp_InputFile::parseStage},
         {inp_Stage::Expand, "expand", &inp_InputFile::ExpandKeywords},
+        {inp_Stage::Names, "names", &inp_InputFile::namesStage},
         {inp_Stage::Organize, "organize", &inp_InputFile::Reorganize},
+        {inp_Stage::ScopedNames, "scoped-names", &inp_InputFile::scopedNamesStage},
         {inp_Stage::PartMaps, "part-maps", &inp_InputFile::extractPartMapsStage},
         {inp_Stage::AssemblyMaps, "assembly-maps", &inp_InputFile::extractAssemblyMapsStage},
         {inp_Stage::OutOfPlace, "out-of-place", &inp_InputFile::CheckOutOfPlace},

@@ -32,8 +32,9 @@ constexpr char kCleanDeck[] = "*NODE\n1, 0., 0.\n*STEP\n*STATIC\n*END STEP\n";
 TEST_F(InputFileRoad, StagesAreNamedInRoadOrder) {
     std::vector<std::string> names;
     for (inp_StageInfo const& stage : inp_InputFile::Stages()) names.emplace_back(stage.name);
-    EXPECT_EQ(names, (std::vector<std::string>{"parse", "expand", "organize", "part-maps",
-                                               "assembly-maps", "out-of-place"}));
+    EXPECT_EQ(names, (std::vector<std::string>{"parse", "expand", "names", "organize",
+                                               "scoped-names", "part-maps", "assembly-maps",
+                                               "out-of-place"}));
     ASSERT_NE(inp_InputFile::FindStage("expand"), nullptr);
     EXPECT_EQ(inp_InputFile::FindStage("expand")->stage, inp_Stage::Expand);
     EXPECT_EQ(inp_InputFile::FindStage("mesh"), nullptr);

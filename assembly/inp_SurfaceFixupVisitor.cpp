@@ -1,0 +1,73 @@
+// The walk of inp_SurfaceFixupVisitor: reading each surface name, asking the
+// subclass, writing back what changed.
+
+#include "assembly/inp_SurfaceFixupVisitor.h"
+
+#include "deck/inp_Exceptions.h"
+#include "deck/inp_Item.h"
+#include "mesh/inp_Utils.h"
+
+inp_SurfaceFixupVisitor::inp_SurfaceFixupVisitor(inpM_SurfaceMap const& surfaces)
+    : m_surfaces(surfaces) {}
+
+inp_SurfaceFixupVisitor::~inp_SurfaceFixupVisitor() = default;
+
+cow_String inp_SurfaceFixupVisitor::Fixup(inp_Keyword const& keyword, cow_String const& name) {
+    try {
+        return FixupSurfaceName(name, AssemblyName(), InstanceName(), PartName());
+    } catch (inp_PrimException const& failure) {
+        AddWarning(inp_Utils::MessageInKeyword(keyword, failure.UserReport()));
+        return name;
+    }
+}
+
+// A write through a data handle shows in every copy of the keyword; the
+// first change gives this keyword lines of its own.
+void inp_SurfaceFixupVisitor::ReplaceSurfaceItem(inp_Keyword& keyword, int line, int column) {
+    if (!keyword.Data().HasValue(line, column)) return;
+    cow_String const name = keyword.Data().AsString(line, column);
+    cow_String const result = Fixup(keyword, name);
+    if (result == name) return;
+    if (keyword.Data().UseCount() > 1) keyword.SetData(keyword.Data().Copy());
+    keyword.Data().Set(line, column, result);
+}
+
+void inp_SurfaceFixupVisitor::ReplaceSurfaceData(inp_Keyword& keyword, std::span<int const> columns,
+                                                 int stride, int offset) {
+    if (stride < 1) stride = 1;
+    for (int line = offset < 0 ? 0 : offset; line < keyword.Data().Rows(); line += stride)
+        for (int column : columns) ReplaceSurfaceItem(keyword, line, column);
+}
+
+void inp_SurfaceFixupVisitor::ReplaceSurfaceAllData(inp_Keyword& keyword) {
+    for (int line = 0; line < keyword.Data().Rows(); ++line)
+        for (int column = 0; column < keyword.Data().Cols(line); ++column)
+            ReplaceSurfaceItem(keyword, line, column);
+}
+
+void inp_SurfaceFixupVisitor::ReplaceSurfaceParameter(inp_Keyword& keyword,
+                                                      cow_String const& name) {
+    inp_Item const* value = keyword.Parameters().Find(name);
+    if (value == nullptr || value->Type() == inp_Types::inp_NONE) return;
+    cow_String const surface = value->AsString();
+    cow_String const result = Fixup(keyword, surface);
+    if (result != surface) keyword.SetParameter(name, inp_Item(result));
+}
+
+void inp_SurfaceFixupVisitor::DefaultAction(inp_Keyword& keyword) {
+    for (inp_SurfaceReference const& reference : PlainReferencesOf(keyword.Keyword())) {
+        switch (reference.form) {
+            case inp_SurfaceReference::Form::Parameter:
+                ReplaceSurfaceParameter(keyword, reference.parameter);
+                break;
+            case inp_SurfaceReference::Form::Column: {
+                int const column[] = {reference.column};
+                ReplaceSurfaceData(keyword, column, reference.stride, 0);
+                break;
+            }
+            case inp_SurfaceReference::Form::AllData:
+                ReplaceSurfaceAllData(keyword);
+                break;
+        }
+    }
+}
