@@ -33,10 +33,14 @@ inline int RunMeshWalks(cow_List<inp_Keyword>& keywords) {
     return made;
 }
 
-// The extraction stages over an organized deck, called directly so that they
-// run whatever the deck is made of (the road runs the map extraction for
-// decks in parts only).
+// The name stages and the extraction stages over an organized deck, called
+// directly so that they run whatever the deck is made of (the road runs the
+// period removal for flat decks only, the scoped names and the map
+// extraction for decks in parts only).
 inline void RunExtractionStages(inp_InputFile& input) {
+    input.ProhibitPeriodInNames(input.Keywords());
+    input.RemovePeriods(false);
+    input.ModifyScopedNames();
     input.ExtractPartMaps(false);
     input.ExtractAssemblyMaps(false);
     input.CheckOutOfPlace();
