@@ -114,6 +114,8 @@ TEST_F(NameHygiene, AFlatDeckHasThePeriodsOfItsReferencesReplacedAndNothingElse)
 *BOUNDARY
 P.SET, 1, 2, 1.5
 7, 1
+"Q.R", 3
+LLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLL.MMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMM, 4
 *DSLOAD
 S.TOP, P, 1.5
 *STEP
@@ -122,7 +124,13 @@ S.TOP, P, 1.5
 )";
     run(deck, inp_Stage::Expand);
     input.RemovePeriods(false);
-    EXPECT_NE(printed(inp_kw_Boundary).find("P_SET, 1, 2, 1.5\n7, 1"), std::string::npos)
+    // Labels, numbers and quoted names keep their periods; a long name is
+    // rewritten whole.
+    EXPECT_NE(printed(inp_kw_Boundary)
+                  .find("P_SET, 1, 2, 1.5\n7, 1\n\"Q.R\", "
+                        "3\nLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLLL_"
+                        "MMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMMM, 4"),
+              std::string::npos)
         << printed(inp_kw_Boundary);
     EXPECT_NE(printed(inp_kw_SolidSection).find("elset = E_1"), std::string::npos)
         << printed(inp_kw_SolidSection);
