@@ -1,5 +1,6 @@
 #include "assembly/inp_NameFixupVisitor.h"
 
+#include "assembly/inp_OwnDataWrite.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_Item.h"
 #include "mesh/inp_Utils.h"
@@ -23,15 +24,11 @@ void inp_NameFixupVisitor::ReplaceParameter(inp_Keyword& keyword, cow_String con
     if (result != text) keyword.SetParameter(name, inp_Item(result));
 }
 
-// A write through a data handle shows in every copy of the keyword; the
-// first change gives this keyword lines of its own.
 void inp_NameFixupVisitor::ReplaceData(inp_Keyword& keyword, int line, int column) {
     if (!keyword.Data().HasValue(line, column)) return;
     cow_String const text = keyword.Data().AsString(line, column);
     cow_String const result = Fixup(keyword, text);
-    if (result == text) return;
-    if (keyword.Data().UseCount() > 1) keyword.SetData(keyword.Data().Copy());
-    keyword.Data().Set(line, column, result);
+    if (result != text) inp_WriteOwnDataItem(keyword, line, column, result);
 }
 
 void inp_NameFixupVisitor::ReplaceColumn(inp_Keyword& keyword, int column) {

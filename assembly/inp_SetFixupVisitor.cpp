@@ -4,6 +4,7 @@
 
 #include "assembly/inp_SetFixupVisitor.h"
 
+#include "assembly/inp_OwnDataWrite.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_Item.h"
 #include "mesh/inp_Utils.h"
@@ -34,8 +35,7 @@ cow_String inp_SetFixupVisitor::Fixup(inp_Keyword const& keyword, cow_String con
 
 void inp_SetFixupVisitor::WriteItem(inp_Keyword& keyword, int line, int column,
                                     cow_String const& text) {
-    if (keyword.Data().UseCount() > 1) keyword.SetData(keyword.Data().Copy());
-    keyword.Data().Set(line, column, text);
+    inp_WriteOwnDataItem(keyword, line, column, text);
 }
 
 void inp_SetFixupVisitor::ReplaceIdOrSetSingleDatum(inp_Keyword& keyword, int line, int column,

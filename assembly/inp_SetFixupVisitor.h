@@ -154,9 +154,8 @@ class inp_SetFixupVisitor : public inp_Visitor {
     void VisitTemperature(inp_Keyword& keyword) override;
 
   protected:
-    // Data handles are shared by the copies of a keyword, and a write
-    // through one shows in all; the first change to a keyword's lines gives
-    // it lines of its own, so that its copies keep what they had.
+    // Writes one item; the first change gives the keyword lines of its own
+    // (inp_OwnDataWrite.h).
     static void WriteItem(inp_Keyword& keyword, int line, int column, cow_String const& text);
 
     inpM_SetMap const& NodeSets() const { return m_nodeSets; }

@@ -3,6 +3,7 @@
 
 #include "assembly/inp_SurfaceFixupVisitor.h"
 
+#include "assembly/inp_OwnDataWrite.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_Item.h"
 #include "mesh/inp_Utils.h"
@@ -21,15 +22,11 @@ cow_String inp_SurfaceFixupVisitor::Fixup(inp_Keyword const& keyword, cow_String
     }
 }
 
-// A write through a data handle shows in every copy of the keyword; the
-// first change gives this keyword lines of its own.
 void inp_SurfaceFixupVisitor::ReplaceSurfaceItem(inp_Keyword& keyword, int line, int column) {
     if (!keyword.Data().HasValue(line, column)) return;
     cow_String const name = keyword.Data().AsString(line, column);
     cow_String const result = Fixup(keyword, name);
-    if (result == name) return;
-    if (keyword.Data().UseCount() > 1) keyword.SetData(keyword.Data().Copy());
-    keyword.Data().Set(line, column, result);
+    if (result != name) inp_WriteOwnDataItem(keyword, line, column, result);
 }
 
 void inp_SurfaceFixupVisitor::ReplaceSurfaceData(inp_Keyword& keyword, std::span<int const> columns,
