@@ -5,6 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <string>
+
 #include "assembly/inp_RemovePeriodVisitors.h"
 #include "assembly/inp_SetFixupVisitor.h"
 #include "bench/ExpandedDeck.h"
@@ -40,6 +42,29 @@ void BM_SetFixupRewritingNothing(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_SetFixupRewritingNothing)->Unit(benchmark::kMillisecond);
+
+// Where references are many: one *BOUNDARY of 1,000,000 lines, each node
+// read and asked about, none rewritten.
+void BM_SetFixupOverAMillionBoundaryLines(benchmark::State& state) {
+    static cow_List<inp_Keyword> keywords = [] {
+        inp_Keyword boundary(inp_kw_Boundary);
+        std::string line;
+        for (int node = 1; node <= 1'000'000; ++node) {
+            line = std::to_string(node) + ", 1, 3";
+            boundary.Data().Append(line.c_str());
+        }
+        cow_List<inp_Keyword> list;
+        list.Append(boundary);
+        return list;
+    }();
+    for (auto _ : state) {
+        UnchangedReferences walk;
+        walk.VisitList(keywords);
+        benchmark::DoNotOptimize(walk.GetWarningList().Length());
+    }
+    state.SetItemsProcessed(state.iterations() * 1'000'000);
+}
+BENCHMARK(BM_SetFixupOverAMillionBoundaryLines)->Unit(benchmark::kMillisecond);
 
 // The six walks of period removal, as a flat deck gets them before it
 // becomes a part.
