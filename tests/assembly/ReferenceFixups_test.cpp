@@ -9,12 +9,15 @@
 #include <vector>
 
 #include "assembly/inp_DistributionFixupVisitor.h"
+#include "assembly/inp_FakePartVisitors.h"
 #include "assembly/inp_MaterialFixupVisitor.h"
 #include "assembly/inp_OrientationFixupVisitor.h"
 #include "assembly/inp_SetFixupVisitor.h"
 #include "assembly/inp_SurfaceFixupVisitor.h"
+#include "assembly/inp_UndefinedNodeVisitor.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_Item.h"
+#include "support/inpM_Utils.h"
 
 namespace {
 
@@ -317,4 +320,96 @@ TEST(NameFixups, TheDefaultLineOfAPassedDistributionIsRead) {
     EXPECT_EQ(values[0], 2.5);
     EXPECT_EQ(values[1], 3.5);
     EXPECT_EQ(visitor.GetDefaultDataDouble("THICK", values, 3), 0);  // known by its new name
+}
+
+// -- the answers of a flat deck becoming a part ----------------------------------------
+
+namespace {
+
+inp_CoordMap fakeNodes(std::initializer_list<int> labels) {
+    inp_CoordMap nodes;
+    for (int label : labels) nodes.Insert(label, inp_Coord(1., 2., 3.));
+    inp_CoordMap coordinates;
+    coordinates.Insert(cow_String("FAKE"), nodes);
+    return coordinates;
+}
+
+std::vector<std::string> texts(cow_List<atr_String> const& list) {
+    std::vector<std::string> out;
+    for (atr_String const& entry : list) out.emplace_back(entry.View());
+    return out;
+}
+
+}  // namespace
+
+TEST(UndefinedNodes, ReferencedNodesAndSetMembersArePlacedAtTheOrigin) {
+    inpM_SetMap sets;
+    sets.InsertNestedSet(cow_String("FAKE"), cow_String("NS"), CreateSet({1, 7}, false, false));
+    inp_UndefinedNodeVisitor visitor(fakeNodes({1}), sets, true);
+    cow_List<inp_Keyword> list;
+    list.Append(keywordOf(inp_kw_Boundary, {"1, 1", "5, 2", "5, 3", "NS, 1", "A.B.C, 1"}));
+    list.Append(keywordOf(inp_kw_Cload, {"0, 1, 1.", "1234567890, 1, 1."}));
+    list.Append(keywordOf(inp_kw_SolidSection, {}, {{"elset", "77"}}));
+    visitor.VisitList(list);
+
+    inp_CoordMap const& nodes = visitor.ConstGetCoordMap().ConstGet(cow_String("FAKE"));
+    EXPECT_TRUE(nodes.IsMember(5));
+    EXPECT_TRUE(nodes.IsMember(7));
+    EXPECT_FALSE(nodes.IsMember(77));  // an element reference
+    EXPECT_EQ(nodes.ConstGet(5).x, 0.);
+    EXPECT_EQ(nodes.ConstGet(1).x, 1.);  // a defined node keeps its place
+    EXPECT_EQ(texts(visitor.GetWarningList()),
+              (std::vector<std::string>{
+                  "in keyword *BOUNDARY Undefined node 5 was detected and placed at the origin. ",
+                  "in keyword *CLOAD Undefined node 1234567890 was detected and placed at the "
+                  "origin. "}));
+    EXPECT_EQ(
+        texts(visitor.GetErrorList()),
+        (std::vector<std::string>{"in keyword *CLOAD Node label is not a positive integer: 0",
+                                  "in keyword *CLOAD Node label exceeds 9 digits: 1234567890"}));
+    EXPECT_EQ(visitor.SetsWithUndefinedNodes().Length(), 1);
+    EXPECT_EQ(item(list.ConstGet(0), 1, 0), "5");  // the deck is not changed
+}
+
+TEST(UndefinedNodes, AMatrixMayNameAnyLabelAndADeckWithoutThePseudoPartIsLeftAlone) {
+    inp_UndefinedNodeVisitor matrix(fakeNodes({}), inpM_SetMap(), true);
+    walked(matrix, keywordOf(inp_kw_MatrixInput, {"0, 1, 0, 1, 1."}));
+    EXPECT_TRUE(matrix.GetErrorList().IsEmpty());
+
+    inp_UndefinedNodeVisitor parts(inp_CoordMap(), inpM_SetMap(), true);
+    walked(parts, keywordOf(inp_kw_Boundary, {"5, 1"}));
+    EXPECT_TRUE(parts.GetWarningList().IsEmpty());
+    EXPECT_FALSE(parts.ConstGetCoordMap().IsMember(cow_String("FAKE")));
+}
+
+TEST(FakePartSurfaces, SurfacesThatArePartsAreNamedByTheirInstance) {
+    inp_FakePartSurfaceVisitor visitor{inpM_SurfaceMap()};
+    cow_List<inp_Keyword> list;
+    list.Append(
+        keywordOf(inp_kw_Surface, {"START, 0., 0."}, {{"type", "CYLINDER"}, {"name", "S"}}));
+    list.Append(keywordOf(inp_kw_RigidBody, {}, {{"analyticalsurface", "S"}, {"refnode", "1"}}));
+    list.Append(keywordOf(inp_kw_Tie, {"S, OTHER"}, {{"name", "T"}}));
+    list.Append(keywordOf(inp_kw_RigidSurface, {}, {{"type", "CYLINDER"}}));
+    visitor.VisitList(list);
+    EXPECT_EQ(parameter(list.ConstGet(1), "analyticalsurface"), "S-1.S");
+    EXPECT_EQ(item(list.ConstGet(2), 0, 0), "S-1.S");
+    EXPECT_EQ(item(list.ConstGet(2), 0, 1), "OTHER");
+    std::string const generated = parameter(list.ConstGet(3), "name");
+    EXPECT_EQ(generated.rfind("RigidSurface-", 0), 0u) << generated;
+    EXPECT_EQ(visitor.PartSurfaces().Length(), 2);
+}
+
+TEST(FakeDistributions, TheUsedDistributionsAreRecordedAndNothingIsRenamed) {
+    cow_Map<cow_String, int> known;
+    known.Insert(cow_String("THICK"), 1);
+    known.Insert(cow_String("SPARE"), 1);
+    cow_Map<cow_String, int> used;
+    inp_FakeDistributionVisitor visitor(known, used);
+    inp_Keyword const out = walked(
+        visitor,
+        keywordOf(inp_kw_ShellSection, {}, {{"shellthickness", "THICK"}, {"offset", "OFF"}}));
+    EXPECT_EQ(parameter(out, "shellthickness"), "THICK");
+    EXPECT_TRUE(used.IsMember(cow_String("THICK")));
+    EXPECT_FALSE(used.IsMember(cow_String("SPARE")));
+    EXPECT_FALSE(used.IsMember(cow_String("OFF")));
 }
