@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "assembly/inp_DistributionFixupVisitor.h"
+#include "assembly/inp_FakePartSetVisitor.h"
 #include "assembly/inp_FakePartVisitors.h"
 #include "assembly/inp_MaterialFixupVisitor.h"
 #include "assembly/inp_OrientationFixupVisitor.h"
@@ -412,4 +413,37 @@ TEST(FakeDistributions, TheUsedDistributionsAreRecordedAndNothingIsRenamed) {
     EXPECT_TRUE(used.IsMember(cow_String("THICK")));
     EXPECT_FALSE(used.IsMember(cow_String("SPARE")));
     EXPECT_FALSE(used.IsMember(cow_String("OFF")));
+}
+
+TEST(FakePartSets, ReferencesOutsideThePartAreScopedByItsInstance) {
+    inpM_IdMap partNodes;
+    partNodes.Insert(7, 1);
+    inpM_IdMap nodeIds;
+    nodeIds.Insert(cow_String("PART-1"), partNodes);
+    inpM_SetMap nodeSets;
+    nodeSets.InsertNestedSet(cow_String("PART-1"), cow_String("TOP"), CreateSet({7}, false, false));
+    inp_FakePartSetVisitor visitor(nodeIds, inpM_IdMap(), nodeSets, inpM_SetMap(), {});
+    cow_List<inp_Keyword> list;
+    list.Append(keywordOf(inp_kw_Boundary, {"7, 1", "TOP, 2", "ASSEMBLYSET, 3", "9, 4"}));
+    list.Append(keywordOf(inp_kw_Part, {}, {{"name", "PART-1"}}));
+    list.Append(keywordOf(inp_kw_Boundary, {"7, 1"}));
+    list.Append(keywordOf(inp_kw_EndPart, {}));
+    list.Append(keywordOf(inp_kw_InitialConditions, {"7, 20."}, {{"type", "TEMPERATURE"}}));
+    visitor.VisitList(list);
+    inp_Keyword const& model = list.ConstGet(0);
+    EXPECT_EQ(item(model, 0, 0), "PART-1-1.7");
+    EXPECT_EQ(item(model, 1, 0), "PART-1-1.TOP");
+    EXPECT_EQ(item(model, 2, 0), "ASSEMBLYSET");
+    EXPECT_EQ(item(model, 3, 0), "9");
+    EXPECT_EQ(item(list.ConstGet(2), 0, 0), "7");  // inside the part
+    EXPECT_EQ(item(list.ConstGet(4), 0, 0), "7");  // a deck of no parts of its own
+    EXPECT_EQ(texts(visitor.GetErrorList()),
+              (std::vector<std::string>{"in keyword *BOUNDARY Node/element 9 cannot be found.  "
+                                        "Please check that it is defined."}));
+
+    inp_FakePartSetVisitor byInstance(nodeIds, inpM_IdMap(),
+                                      {.scopedByInstance = true, .featureEnhanced = true});
+    inp_Keyword const out = walked(
+        byInstance, keywordOf(inp_kw_InitialConditions, {"7, 20."}, {{"type", "TEMPERATURE"}}));
+    EXPECT_EQ(item(out, 0, 0), "PART-1.7");
 }
