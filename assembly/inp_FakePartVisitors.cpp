@@ -17,8 +17,7 @@ cow_String inp_PartSurfaceInstanceName(cow_String const& name) {
 inp_FakePartSurfaceVisitor::inp_FakePartSurfaceVisitor(inpM_SurfaceMap const& surfaces)
     : inp_SurfaceFixupVisitor(surfaces) {}
 
-cow_String inp_FakePartSurfaceVisitor::FixupSurfaceName(cow_String const& name,
-                                                        cow_String const&,
+cow_String inp_FakePartSurfaceVisitor::FixupSurfaceName(cow_String const& name, cow_String const&,
                                                         cow_String const& instanceName,
                                                         cow_String const& partName) {
     if (!partName.IsEmpty() || !instanceName.IsEmpty()) return name;
