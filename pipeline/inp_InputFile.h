@@ -13,6 +13,7 @@
 #include "mesh/inp_CoordMap.h"
 #include "mesh/inp_MapInt2Element.h"
 #include "pipeline/inp_InputFileOptions.h"
+#include "pipeline/inp_ModelParameters.h"
 #include "pipeline/inp_Stage.h"
 #include "support/cow_List.h"
 #include "support/cow_String.h"
@@ -73,6 +74,11 @@ class inp_InputFile {
     // Makes the flat keyword list a tree of keywords and their suboptions;
     // misplaced keywords are reported and left out.
     void Reorganize();
+    // Gathers the sizes and facts of the model (ModelParameters) from the
+    // expanded deck.
+    void setModelParameters();
+    inp_ModelParameters const& ModelParameters() const { return m_modelParameters; }
+
     // Name hygiene. The period separates the pieces of a scoped name
     // (instance.name), so the names a deck defines may not hold one
     // outside quotes: the first offender is reported as an error, and the
@@ -231,6 +237,7 @@ class inp_InputFile {
     inpM_SurfaceMap m_importedSurfaces;
     cow_List<cow_String> m_importedInstanceNames;
     inp_InputFileOptions m_options;  // the include path among them
+    inp_ModelParameters m_modelParameters;
     inpM_InstanceMap<cow_String> m_instancePartNames;
     cow_List<cow_String> m_includedFiles;
     cow_List<cow_String> m_missingIncludeFiles;

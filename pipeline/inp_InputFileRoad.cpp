@@ -15,6 +15,7 @@ struct inp_RoadTable {
     static constexpr inp_StageInfo kStages[] = {
         {inp_Stage::Parse, "parse", &inp_InputFile::parseStage},
         {inp_Stage::Expand, "expand", &inp_InputFile::ExpandKeywords},
+        {inp_Stage::ModelParameters, "model-parameters", &inp_InputFile::setModelParameters},
         {inp_Stage::Names, "names", &inp_InputFile::namesStage},
         {inp_Stage::Organize, "organize", &inp_InputFile::Reorganize},
         {inp_Stage::ScopedNames, "scoped-names", &inp_InputFile::scopedNamesStage},

@@ -3,6 +3,7 @@
 
 #include "expansion/inp_KeywordExpansionVisitor.h"
 #include "pipeline/inp_InputFile.h"
+#include "pipeline/inp_ModelParameterVisitor.h"
 #include "pipeline/inp_OrganizerVisitor.h"
 #include "pipeline/inp_StageTime.h"
 #include "support/omi_Timer.h"
@@ -60,6 +61,14 @@ void inp_InputFile::ExpandKeywords() {
 
     if (m_options.discardBlankedKeywords) DiscardEmptyKeywords();
     inp_PrintStageTime("Expand Keywords - Elapsed time: ", timer);
+}
+
+void inp_InputFile::setModelParameters() {
+    omi_Timer timer;
+    timer.Start();
+    inp_ModelParameterVisitor parameters(m_modelParameters);
+    parameters.VisitListAndReport(m_keywords);
+    inp_PrintStageTime("Set Model Parameters - Elapsed time: ", timer);
 }
 
 void inp_InputFile::Reorganize() {

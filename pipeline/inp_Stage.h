@@ -3,14 +3,15 @@
 // Each stage relies on a sound result of the ones before it.
 
 enum class inp_Stage : int {
-    Parse,         // the deck's lines into a flat keyword list, include files spliced in
-    Expand,        // every keyword checked and normalised by its vocabulary
-    Names,         // no period in the names the deck defines
-    Organize,      // the flat list made a tree of keywords and their suboptions
-    ScopedNames,   // a parts deck: references by the assembly's full name shortened
-    PartMaps,      // a parts deck: the mesh of every part read into maps
-    AssemblyMaps,  // a parts deck: the instances placed, the assembly's mesh read
-    OutOfPlace,    // what parts hold and where node and element data stand
+    Parse,            // the deck's lines into a flat keyword list, include files spliced in
+    Expand,           // every keyword checked and normalised by its vocabulary
+    ModelParameters,  // the sizes and facts of the model gathered
+    Names,            // no period in the names the deck defines
+    Organize,         // the flat list made a tree of keywords and their suboptions
+    ScopedNames,      // a parts deck: references by the assembly's full name shortened
+    PartMaps,         // a parts deck: the mesh of every part read into maps
+    AssemblyMaps,     // a parts deck: the instances placed, the assembly's mesh read
+    OutOfPlace,       // what parts hold and where node and element data stand
 };
 
 class inp_InputFile;

@@ -129,11 +129,11 @@ TEST_F(FedeckProgram, UsageErrorsExitWithTwoAndUsageOnStandardError) {
          "fedeck: option '--password' does not apply to 'model'\n"},
         {{"model", "deck.inp", "--until"}, "fedeck: option '--until' needs a value\n"},
         {{"model", "--until=mesh", "deck.inp"},
-         "fedeck: unknown stage 'mesh'; known stages: parse, expand, names, organize, "
-         "scoped-names, part-maps, assembly-maps, out-of-place\n"},
+         "fedeck: unknown stage 'mesh'; known stages: parse, expand, model-parameters, names, "
+         "organize, scoped-names, part-maps, assembly-maps, out-of-place\n"},
         {{"check", "--until", "mesh", "deck.inp"},
-         "fedeck: unknown stage 'mesh'; known stages: parse, expand, names, organize, "
-         "scoped-names, part-maps, assembly-maps, out-of-place\n"},
+         "fedeck: unknown stage 'mesh'; known stages: parse, expand, model-parameters, names, "
+         "organize, scoped-names, part-maps, assembly-maps, out-of-place\n"},
     };
     for (auto const& [arguments, message] : cases) {
         Outcome const result = run(arguments);
