@@ -6,6 +6,7 @@
 // instance stay as they are.
 
 #include "assembly/inp_SetFixupVisitor.h"
+#include "pipeline/inp_ModelParameters.h"
 
 class inp_FakePartSetVisitor : public inp_SetFixupVisitor {
   public:
@@ -19,6 +20,11 @@ class inp_FakePartSetVisitor : public inp_SetFixupVisitor {
         bool symmetricModelGeneration = false;
         // The deck used parts, assemblies or instances of its own.
         bool featureEnhanced = false;
+
+        // The facts as the model parameters of the deck give them.
+        static Options For(inp_ModelParameters const& parameters, bool scopedByInstance) {
+            return {scopedByInstance, parameters.isSymModelGen(), parameters.isFeatureEnhanced()};
+        }
     };
 
     // The sets and id maps are nested by part (or instance).

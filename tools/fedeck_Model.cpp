@@ -125,6 +125,8 @@ class ModelWriter {
     void Write() {
         m_out.print("\"partsAndAssembly\": ").print(m_deck.IsPartsAndAssembly() ? "true" : "false");
         m_out.print(", \"fakePartModel\": ").print(m_deck.IsFakePartModel() ? "true" : "false");
+        m_out.print(", \"modelParameters\": ");
+        writeModelParameters(m_deck.ModelParameters());
         m_out.print(", \"parts\": {");
         Separator parts(m_out);
         for (cow_String const& part : partNames(m_deck)) {
@@ -136,6 +138,44 @@ class ModelWriter {
     }
 
   private:
+    void flag(Separator& separator, char const* name, bool value) {
+        separator.Next().print("\"").print(name).print("\": ").print(value ? "true" : "false");
+    }
+    void count(Separator& separator, char const* name, int value) {
+        separator.Next().print("\"").print(name).print("\": ").print_int(value);
+    }
+
+    void writeModelParameters(inp_ModelParameters const& parameters) {
+        m_out.print("{");
+        Separator members(m_out);
+        count(members, "numDepVars", parameters.getNumDepVars());
+        count(members, "numTempPts", parameters.getNumTempPts());
+        count(members, "numGaussPts", parameters.getNumGaussPts());
+        flag(members, "symModelGen", parameters.isSymModelGen());
+        flag(members, "temperatureElements", parameters.hasTemperatureElms());
+        flag(members, "imported", parameters.isImported());
+        flag(members, "staticGeneralStep", parameters.hasStaticGeneralStep());
+        flag(members, "importedParts", parameters.hasImportedParts());
+        flag(members, "featureEnhanced", parameters.isFeatureEnhanced());
+        members.Next().print("\"tableSizes\": {");
+        Separator tables(m_out);
+        using Sorted = cow_ConstMapSortedIt<cow_String, int>;
+        for (Sorted table(parameters.TableSizes(), Sorted::AscSortCmp); table.NotDone();
+             table.Next()) {
+            key(tables, table.CurrentKey());
+            m_out.print_int(table.CurrentValue());
+        }
+        m_out.print("}");
+        members.Next().print("\"rectangularSystems\": {");
+        Separator systems(m_out);
+        for (Sorted system(parameters.RectangularSystems(), Sorted::AscSortCmp); system.NotDone();
+             system.Next()) {
+            key(systems, system.CurrentKey());
+            m_out.print(system.CurrentValue() != 0 ? "true" : "false");
+        }
+        m_out.print("}}");
+    }
+
     void key(Separator& separator, cow_String const& name) {
         fedeck_WriteJsonString(separator.Next(), name.View());
         m_out.print(": ");

@@ -441,8 +441,10 @@ TEST(FakePartSets, ReferencesOutsideThePartAreScopedByItsInstance) {
               (std::vector<std::string>{"in keyword *BOUNDARY Node/element 9 cannot be found.  "
                                         "Please check that it is defined."}));
 
+    inp_ModelParameters parts;
+    parts.SetFeatureEnhanced();
     inp_FakePartSetVisitor byInstance(nodeIds, inpM_IdMap(),
-                                      {.scopedByInstance = true, .featureEnhanced = true});
+                                      inp_FakePartSetVisitor::Options::For(parts, true));
     inp_Keyword const out = walked(
         byInstance, keywordOf(inp_kw_InitialConditions, {"7, 20."}, {{"type", "TEMPERATURE"}}));
     EXPECT_EQ(item(out, 0, 0), "PART-1.7");
