@@ -39,12 +39,13 @@ TEST_F(ModelParameters, CompositeShellsCountTheirLayersPointsOnce) {
     EXPECT_EQ(simpson.getNumTempPts(), 1);
 
     inp_InputFile gauss;
-    gauss.Run(dir.Write("gauss.inp", R"(*SHELL SECTION, ELSET=E, COMPOSITE, SECTION INTEGRATION=GAUSS
+    gauss.Run(
+        dir.Write("gauss.inp", R"(*SHELL SECTION, ELSET=E, COMPOSITE, SECTION INTEGRATION=GAUSS
 1., 2, STEEL
 1., 2, STEEL
 1., 2, STEEL
 )"),
-              inp_Stage::ModelParameters, inp_InputFile::RunRule::RunThrough);
+        inp_Stage::ModelParameters, inp_InputFile::RunRule::RunThrough);
     EXPECT_EQ(gauss.ModelParameters().getNumGaussPts(), 6);
 }
 
