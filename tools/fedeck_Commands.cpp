@@ -6,6 +6,7 @@
 #include "deck/inp_DeckWriter.h"
 #include "fedeck_Version.h"
 #include "pipeline/inp_InputFile.h"
+#include "pipeline/inp_Utf8ValidityVisitor.h"
 #include "support/ZELBasException.h"
 #include "support/aio_Stream.h"
 #include "support/thr_Singleton.h"
@@ -46,6 +47,8 @@ class CheckedDeck {
         if (!includeDirectory.empty()) m_deck.SetIncludePath(cow_String(includeDirectory.c_str()));
         m_stageRun = fedeck_Pipeline::Run(m_deck, m_path, lastStage);
         m_stoppedEarly = m_stageRun != lastStage;
+        if (m_stageRun == static_cast<int>(fedeck_Pipeline::Stages().size()) - 1)
+            runOfferedChecks();
     }
 
     fedeck_Report Report() const {
@@ -55,6 +58,13 @@ class CheckedDeck {
     inp_InputFile const& Deck() const { return m_deck; }
 
   private:
+    // A checker runs every check it has: those the library offers its
+    // callers but no stage of the road runs come after the whole road.
+    void runOfferedChecks() {
+        inp_Utf8ValidityVisitor utf8;
+        utf8.VisitListAndReport(m_deck.GetKeywords());
+    }
+
     cow_String m_path;  // as typed: messages name the deck as the user knows it
     inp_InputFile m_deck;
     int m_stageRun = 0;

@@ -245,6 +245,22 @@ TEST_F(FedeckProgram, WarningsAloneSucceedAndCarryNoLevel) {
         << json.out;
 }
 
+// After the whole road the checker also runs the checks no stage runs: a
+// material name that is not UTF-8 is an error, a step subheading that is
+// not is removed with a warning. A run that stops earlier skips them.
+TEST_F(FedeckProgram, NamesThatAreNotUtf8AreReportedAfterTheWholeRoad) {
+    write("deck.inp", "*MATERIAL, NAME=\"A\xFF\"\n*STEP\nbad \xC3 heading\n*STATIC\n*END STEP\n");
+    Outcome const whole = run({"check", "deck.inp"});
+    EXPECT_EQ(whole.status, 1);
+    EXPECT_NE(whole.out.find("Parameter \"name\" value is not UTF-8 compliant."), std::string::npos)
+        << whole.out;
+    EXPECT_NE(whole.out.find("Step subheading is not UTF-8 compliant and has been removed."),
+              std::string::npos)
+        << whole.out;
+    Outcome const early = run({"check", "--until", "expand", "deck.inp"});
+    EXPECT_EQ(early.out.find("UTF-8"), std::string::npos) << early.out;
+}
+
 TEST_F(FedeckProgram, JsonStaysValidForAnyBytesInNamesAndMessages) {
     write("a\"b\\c\nd.inp", "*FOO\xFF\n");
     Outcome const result = run({"check", "--json", "a\"b\\c\nd.inp"});
