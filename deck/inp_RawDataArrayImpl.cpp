@@ -244,8 +244,10 @@ cow_String inp_RawDataArrayImpl::AsStringVerbatim(int i, int j) {
     return cow_String(item + begin, static_cast<int>(end - begin));
 }
 
+// The fold drops every blank outside quotes, those at the ends too, so the
+// item is folded as it stands, without a trimmed copy first.
 cow_String inp_RawDataArrayImpl::AsString(int i, int j) {
-    return inp_TakeOutSpacesAndUpperOutsideQuoted(AsStringVerbatim(i, j).CStr());
+    return inp_TakeOutSpacesAndUpperOutsideQuoted(Item(i, j));
 }
 
 inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, cow_String const& text) {
