@@ -13,6 +13,7 @@
 #include "assembly/inp_FakePartVisitors.h"
 #include "assembly/inp_MaterialFixupVisitor.h"
 #include "assembly/inp_OrientationFixupVisitor.h"
+#include "assembly/inp_ScopedNameVisitors.h"
 #include "assembly/inp_SetFixupVisitor.h"
 #include "assembly/inp_SurfaceFixupVisitor.h"
 #include "assembly/inp_UndefinedNodeVisitor.h"
@@ -448,4 +449,26 @@ TEST(FakePartSets, ReferencesOutsideThePartAreScopedByItsInstance) {
     inp_Keyword const out = walked(
         byInstance, keywordOf(inp_kw_InitialConditions, {"7, 20."}, {{"type", "TEMPERATURE"}}));
     EXPECT_EQ(item(out, 0, 0), "PART-1.7");
+}
+
+TEST(ScopedNames, OnlyTheAssemblysOwnPrefixGoesAndOnlyAtModelLevel) {
+    inp_ScopedNameSetVisitor visitor(cow_String("A"));
+    cow_List<inp_Keyword> list;
+    list.Append(keywordOf(inp_kw_Boundary, {"A.I.S, 1", "I.S, 2", "1.5, 3", "AB.I.S, 4"}));
+    list.Append(keywordOf(inp_kw_Step, {}, {{"name", "S1"}}));
+    list.Append(keywordOf(inp_kw_Boundary, {"A.I.S, 1"}));
+    list.Append(keywordOf(inp_kw_EndStep, {}));
+    visitor.VisitList(list);
+    EXPECT_EQ(item(list.ConstGet(0), 0, 0), "I.S");
+    EXPECT_EQ(item(list.ConstGet(0), 1, 0), "I.S");
+    EXPECT_EQ(item(list.ConstGet(0), 2, 0), "1.5");
+    EXPECT_EQ(item(list.ConstGet(0), 3, 0), "AB.I.S");
+    EXPECT_EQ(item(list.ConstGet(2), 0, 0), "A.I.S");  // history keeps the full name
+
+    // Without an assembly the prefix compared is empty: only a datum that
+    // starts with a period loses it.
+    inp_ScopedNameSetVisitor none{cow_String()};
+    inp_Keyword const out = walked(none, keywordOf(inp_kw_Boundary, {"A.I.S, 1", ".S, 2"}));
+    EXPECT_EQ(item(out, 0, 0), "A.I.S");
+    EXPECT_EQ(item(out, 1, 0), "S");
 }
