@@ -2,20 +2,7 @@
 
 #include "assembly/inp_MaterialFixupVisitor.h"
 
-#include <initializer_list>
-
-#include "deck/inp_Item.h"
-
-namespace {
-
-bool typeIs(inp_Keyword const& keyword, std::initializer_list<char const*> words) {
-    cow_String const type = keyword.GetParameterAsString("type", cow_String());
-    for (char const* word : words)
-        if (type == word) return true;
-    return false;
-}
-
-}  // namespace
+#include "assembly/inp_KeywordRewrite.h"
 
 inp_MaterialFixupVisitor::~inp_MaterialFixupVisitor() = default;
 
@@ -34,17 +21,17 @@ void inp_MaterialFixupVisitor::VisitEulerianSection(inp_Keyword& keyword) {
 // An Eulerian inflator's lines name the materials of the gas it fills in
 // and of the gas it displaces: the first two columns.
 void inp_MaterialFixupVisitor::VisitFluidInflator(inp_Keyword& keyword) {
-    if (!typeIs(keyword, {"EULERIAN", "COMBINED"})) return;
+    if (!inp_ParameterIsOneOf(keyword, "type", {"EULERIAN", "COMBINED"})) return;
     replaceNames(keyword, 0);
     replaceNames(keyword, 1);
 }
 
 // A line gives the elements, the volume fraction, then the material.
 void inp_MaterialFixupVisitor::VisitInitialConditions(inp_Keyword& keyword) {
-    if (typeIs(keyword, {"VOLUMEFRACTION"})) replaceNames(keyword, 2);
+    if (inp_ParameterIsOneOf(keyword, "type", {"VOLUMEFRACTION"})) replaceNames(keyword, 2);
 }
 
 // An Eulerian material surface names the material on each line.
 void inp_MaterialFixupVisitor::VisitSurface(inp_Keyword& keyword) {
-    if (typeIs(keyword, {"EULERIANMATERIAL"})) replaceNames(keyword, 0);
+    if (inp_ParameterIsOneOf(keyword, "type", {"EULERIANMATERIAL"})) replaceNames(keyword, 0);
 }

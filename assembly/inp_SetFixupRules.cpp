@@ -3,30 +3,14 @@
 // plain positions.
 
 #include <array>
-#include <initializer_list>
-#include <string_view>
 
+#include "assembly/inp_KeywordRewrite.h"
 #include "assembly/inp_SetFixupVisitor.h"
-#include "deck/inp_Item.h"
 
 namespace {
 
 constexpr int kFirst[] = {0};
 constexpr int kSecond[] = {1};
-
-// The keyword's string value of `name`, empty when absent.
-cow_String valueOf(inp_Keyword const& keyword, char const* name) {
-    inp_Item const* value = keyword.Parameters().Find(name);
-    return value ? value->AsString() : cow_String();
-}
-
-bool valueIs(inp_Keyword const& keyword, char const* name,
-             std::initializer_list<std::string_view> words) {
-    cow_String const value = valueOf(keyword, name);
-    for (std::string_view word : words)
-        if (value.View() == word) return true;
-    return false;
-}
 
 bool isNumber(cow_String const& text) {
     inp_Types::typeEnm const type = inp_Item(text).Type();
@@ -51,10 +35,8 @@ void forEachRecordStart(inp_Keyword const& keyword, Visit const& visit) {
 // -- one text at a time ------------------------------------------------------------
 
 void inp_SetFixupVisitor::replaceThroughNodeOrNset(inp_Keyword& keyword, int line, int column) {
-    if (!keyword.Data().HasValue(line, column)) return;
-    cow_String const datum = keyword.Data().AsString(line, column);
-    cow_String const result = ReplaceNodeOrNset(keyword, datum);
-    if (result != datum) WriteItem(keyword, line, column, result);
+    inp_RewriteDataItem(keyword, line, column,
+                        [&](cow_String const& datum) { return ReplaceNodeOrNset(keyword, datum); });
 }
 
 void inp_SetFixupVisitor::replaceNodeRecords(inp_Keyword& keyword) {
@@ -66,7 +48,8 @@ void inp_SetFixupVisitor::replaceNodeRecords(inp_Keyword& keyword) {
 // -- the handlers ----------------------------------------------------------------------
 
 void inp_SetFixupVisitor::VisitAdaptiveMeshConstraint(inp_Keyword& keyword) {
-    if (!keyword.HasParameter("constrainttype") || valueIs(keyword, "constrainttype", {"SPATIAL"}))
+    if (!keyword.HasParameter("constrainttype") ||
+        inp_ParameterIsOneOf(keyword, "constrainttype", {"SPATIAL"}))
         ReplaceNodeOrNsetData(keyword, kFirst, 1);
     else
         ReplaceNodeOrNsetAllData(keyword);
@@ -76,7 +59,8 @@ void inp_SetFixupVisitor::VisitAdaptiveMeshConstraint(inp_Keyword& keyword) {
 // node in the next column.
 void inp_SetFixupVisitor::VisitBoundary(inp_Keyword& keyword) {
     ReplaceNodeOrNsetData(keyword, kFirst, 1);
-    if (valueIs(keyword, "phantom", {"EDGE"})) ReplaceNodeOrNsetData(keyword, kSecond, 1);
+    if (inp_ParameterIsOneOf(keyword, "phantom", {"EDGE"}))
+        ReplaceNodeOrNsetData(keyword, kSecond, 1);
 }
 
 void inp_SetFixupVisitor::VisitCflow(inp_Keyword& keyword) {
@@ -122,22 +106,24 @@ void inp_SetFixupVisitor::VisitContourIntegral(inp_Keyword& keyword) {
 }
 
 void inp_SetFixupVisitor::VisitCoSimulationRegion(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"SURFACE", "VOLUME"}))
+    if (inp_ParameterIsOneOf(keyword, "type", {"SURFACE", "VOLUME"}))
         ReplaceElementOrElsetData(keyword, kFirst, 1);
 }
 
 void inp_SetFixupVisitor::VisitContactInterference(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"CONTACTPAIR", "ELEMENT"}))
+    if (inp_ParameterIsOneOf(keyword, "type", {"CONTACTPAIR", "ELEMENT"}))
         ReplaceElementOrElsetData(keyword, kFirst, 1);
 }
 
 // The default line, whose first item is blank, passes by itself: blank
 // items are never handed on. A table of shell stiffnesses names no set.
 void inp_SetFixupVisitor::VisitDistribution(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"SHELL3DSTIFFNESS"}) && keyword.HasParameter("table")) return;
-    if (valueIs(keyword, "location", {"ELEMENT"}))
+    if (inp_ParameterIsOneOf(keyword, "type", {"SHELL3DSTIFFNESS"}) &&
+        keyword.HasParameter("table"))
+        return;
+    if (inp_ParameterIsOneOf(keyword, "location", {"ELEMENT"}))
         ReplaceElementOrElsetData(keyword, kFirst, 1);
-    else if (valueIs(keyword, "location", {"NODE"}))
+    else if (inp_ParameterIsOneOf(keyword, "location", {"NODE"}))
         ReplaceNodeOrNsetData(keyword, kFirst, 1);
 }
 
@@ -163,7 +149,7 @@ void inp_SetFixupVisitor::VisitField(inp_Keyword& keyword) {
 }
 
 void inp_SetFixupVisitor::VisitFluidInflator(inp_Keyword& keyword) {
-    if (!valueIs(keyword, "type", {"FLUIDCAVITY", "COMBINED", "EULERIAN"})) {
+    if (!inp_ParameterIsOneOf(keyword, "type", {"FLUIDCAVITY", "COMBINED", "EULERIAN"})) {
         ReplaceNodeOrNsetData(keyword, kFirst, 1);
         return;
     }
@@ -183,16 +169,17 @@ void inp_SetFixupVisitor::VisitFrequency(inp_Keyword& keyword) {
 }
 
 void inp_SetFixupVisitor::VisitModelChange(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"ELEMENT"})) ReplaceElementOrElsetAllData(keyword);
+    if (inp_ParameterIsOneOf(keyword, "type", {"ELEMENT"})) ReplaceElementOrElsetAllData(keyword);
 }
 
 void inp_SetFixupVisitor::VisitNormal(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"ELEMENT"})) ReplaceElementOrElsetData(keyword, kFirst, 1);
+    if (inp_ParameterIsOneOf(keyword, "type", {"ELEMENT"}))
+        ReplaceElementOrElsetData(keyword, kFirst, 1);
     ReplaceNodeOrNsetData(keyword, kSecond, 1);
 }
 
 void inp_SetFixupVisitor::VisitOrientation(inp_Keyword& keyword) {
-    if (!valueIs(keyword, "definition", {"NODES"})) return;
+    if (!inp_ParameterIsOneOf(keyword, "definition", {"NODES"})) return;
     for (int column = 0; column < 3; ++column)
         ReplaceIdOrSetSingleDatum(keyword, 0, column, NodeSets(), NodeIds());
 }
@@ -203,26 +190,26 @@ void inp_SetFixupVisitor::VisitPeriodicMedia(inp_Keyword& keyword) {
         ReplaceNodeOrNsetParameter(keyword, parameter);
     for (int line = 0; line < keyword.Data().Rows(); ++line) {
         for (int column = 0; column < keyword.Data().Cols(line); ++column) {
-            if (!keyword.Data().HasValue(line, column)) continue;
-            cow_String const datum = keyword.Data().AsString(line, column);
-            cow_String const result = column == 0 ? ReplaceElementOrElset(keyword, datum)
-                                                  : ReplaceNodeOrNset(keyword, datum);
-            if (result != datum) WriteItem(keyword, line, column, result);
+            inp_RewriteDataItem(keyword, line, column, [&](cow_String const& datum) {
+                return column == 0 ? ReplaceElementOrElset(keyword, datum)
+                                   : ReplaceNodeOrNset(keyword, datum);
+            });
         }
     }
 }
 
 // Continuum elements give a rebar two lines each.
 void inp_SetFixupVisitor::VisitRebar(inp_Keyword& keyword) {
-    if (!valueIs(keyword, "geometry", {"ISOPARAMETRIC", "SKEW"}) && !keyword.HasParameter("single"))
+    if (!inp_ParameterIsOneOf(keyword, "geometry", {"ISOPARAMETRIC", "SKEW"}) &&
+        !keyword.HasParameter("single"))
         return;
-    int const stride = valueIs(keyword, "element", {"CONTINUUM"}) ? 2 : 1;
+    int const stride = inp_ParameterIsOneOf(keyword, "element", {"CONTINUUM"}) ? 2 : 1;
     ReplaceElementOrElsetData(keyword, kFirst, stride);
 }
 
 // Local axes are given by nodes; a set name there stays.
 void inp_SetFixupVisitor::VisitSectionFile(inp_Keyword& keyword) {
-    if (!valueIs(keyword, "axes", {"LOCAL"})) return;
+    if (!inp_ParameterIsOneOf(keyword, "axes", {"LOCAL"})) return;
     ReplaceIdSingleDatum(keyword, 0, 0, NodeSets(), NodeIds());
     ReplaceIdSingleDatum(keyword, 1, 0, NodeSets(), NodeIds());
     ReplaceIdSingleDatum(keyword, 1, 4, NodeSets(), NodeIds());
@@ -238,14 +225,14 @@ void inp_SetFixupVisitor::VisitSlideLine(inp_Keyword& keyword) {
 }
 
 void inp_SetFixupVisitor::VisitSpatialDistribution(inp_Keyword& keyword) {
-    if (valueIs(keyword, "position", {"NODES"}))
+    if (inp_ParameterIsOneOf(keyword, "position", {"NODES"}))
         ReplaceNodeOrNsetData(keyword, kFirst, 1);
     else
         ReplaceElementOrElsetData(keyword, kFirst, 1);
 }
 
 void inp_SetFixupVisitor::VisitSubmodel(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"ACOUSTICTOSTRUCTURE", "SURFACE"}))
+    if (inp_ParameterIsOneOf(keyword, "type", {"ACOUSTICTOSTRUCTURE", "SURFACE"}))
         ReplaceNodeOrNsetAllData(keyword);
 }
 
@@ -263,24 +250,25 @@ void inp_SetFixupVisitor::VisitInitialConditions(inp_Keyword& keyword) {
         ReplaceNodeOrNsetData(keyword, kFirst, 1);
         return;
     }
-    if (valueIs(keyword, "type",
-                {"FLUIDPRESSURE", "MASSFLOWRATE", "PRESSURESTRESS", "RELATIVEDENSITY", "SATURATION",
-                 "VELOCITY", "ACOUSTICSTATICPRESSURE", "POREPRESSURE", "RATIO"})) {
+    if (inp_ParameterIsOneOf(
+            keyword, "type",
+            {"FLUIDPRESSURE", "MASSFLOWRATE", "PRESSURESTRESS", "RELATIVEDENSITY", "SATURATION",
+             "VELOCITY", "ACOUSTICSTATICPRESSURE", "POREPRESSURE", "RATIO"})) {
         ReplaceNodeOrNsetData(keyword, kFirst, 1);
-    } else if (valueIs(keyword, "type", {"FIELD"})) {
+    } else if (inp_ParameterIsOneOf(keyword, "type", {"FIELD"})) {
         replaceNodeRecords(keyword);
-    } else if (valueIs(keyword, "type", {"TEMPERATURE"})) {
+    } else if (inp_ParameterIsOneOf(keyword, "type", {"TEMPERATURE"})) {
         if (keyword.HasParameter("drivingelsets"))
             ReplaceNodeOrNsetData(keyword, kFirst, 1);
         else
             replaceNodeRecords(keyword);
-    } else if (valueIs(keyword, "type", {"ROTATINGVELOCITY"})) {
+    } else if (inp_ParameterIsOneOf(keyword, "type", {"ROTATINGVELOCITY"})) {
         ReplaceNodeOrNsetData(keyword, kFirst, 2);
-    } else if (valueIs(keyword, "type", {"HARDENING"})) {
+    } else if (inp_ParameterIsOneOf(keyword, "type", {"HARDENING"})) {
         // A line of the element's hardening, then one per back stress.
         ReplaceElementOrElsetData(keyword, kFirst,
                                   1 + keyword.GetParameterAsInt("numberbackstresses", 0));
-    } else if (valueIs(keyword, "type", {"SOLUTION"})) {
+    } else if (inp_ParameterIsOneOf(keyword, "type", {"SOLUTION"})) {
         if (keyword.HasParameter("rebar")) {
             forEachRecordStart(keyword, [&](int line) {
                 ReplaceIdOrSetSingleDatum(keyword, line, 0, ElementSets(), ElementIds());
@@ -288,11 +276,12 @@ void inp_SetFixupVisitor::VisitInitialConditions(inp_Keyword& keyword) {
         } else {
             ReplaceElementOrElsetData(keyword, kFirst, 1);
         }
-    } else if (valueIs(keyword, "type", {"REFCOORDINATE"})) {
+    } else if (inp_ParameterIsOneOf(keyword, "type", {"REFCOORDINATE"})) {
         ReplaceElementOrElsetData(keyword, kFirst, 2);
-    } else if (valueIs(keyword, "type",
-                       {"VOLUMEFRACTION", "SPUDEMBEDMENT", "SPUDPRELOAD", "STRESS", "POROSITY",
-                        "SPECIFICENERGY", "INITIALGAP", "PLASTICSTRAIN", "ENRICHMENT"})) {
+    } else if (inp_ParameterIsOneOf(
+                   keyword, "type",
+                   {"VOLUMEFRACTION", "SPUDEMBEDMENT", "SPUDPRELOAD", "STRESS", "POROSITY",
+                    "SPECIFICENERGY", "INITIALGAP", "PLASTICSTRAIN", "ENRICHMENT"})) {
         ReplaceElementOrElsetData(keyword, kFirst, 1);
     }
     // CONTACT names surfaces, which are the surface walk's; its vocabulary
@@ -302,14 +291,15 @@ void inp_SetFixupVisitor::VisitInitialConditions(inp_Keyword& keyword) {
 void inp_SetFixupVisitor::VisitSurface(inp_Keyword& keyword) {
     ReplaceNodeOrNsetParameter(keyword, "refnode");
     if (keyword.HasParameter("combine") || keyword.HasParameter("crop")) return;  // no ids
-    if (valueIs(keyword, "type", {"CUTTINGSURFACE"})) {
-        if (!valueIs(keyword, "definition", {"NODES"}) || keyword.Data().Rows() == 0) return;
+    if (inp_ParameterIsOneOf(keyword, "type", {"CUTTINGSURFACE"})) {
+        if (!inp_ParameterIsOneOf(keyword, "definition", {"NODES"}) || keyword.Data().Rows() == 0)
+            return;
         for (int column = 0; column < keyword.Data().Cols(0); ++column)
             ReplaceIdOrSetSingleDatum(keyword, 0, column, NodeSets(), NodeIds());
         return;
     }
-    if (!keyword.HasParameter("type") || valueIs(keyword, "type", {"ELEMENT"}))
+    if (!keyword.HasParameter("type") || inp_ParameterIsOneOf(keyword, "type", {"ELEMENT"}))
         ReplaceElementOrElsetData(keyword, kFirst, 1);
-    else if (valueIs(keyword, "type", {"NODE"}))
+    else if (inp_ParameterIsOneOf(keyword, "type", {"NODE"}))
         ReplaceNodeOrNsetData(keyword, kFirst, 1);
 }

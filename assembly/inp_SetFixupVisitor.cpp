@@ -4,7 +4,7 @@
 
 #include "assembly/inp_SetFixupVisitor.h"
 
-#include "assembly/inp_OwnDataWrite.h"
+#include "assembly/inp_KeywordRewrite.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_Item.h"
 #include "mesh/inp_Utils.h"
@@ -33,18 +33,12 @@ cow_String inp_SetFixupVisitor::Fixup(inp_Keyword const& keyword, cow_String con
 
 // -- writing back -------------------------------------------------------------------
 
-void inp_SetFixupVisitor::WriteItem(inp_Keyword& keyword, int line, int column,
-                                    cow_String const& text) {
-    inp_WriteOwnDataItem(keyword, line, column, text);
-}
-
 void inp_SetFixupVisitor::ReplaceIdOrSetSingleDatum(inp_Keyword& keyword, int line, int column,
                                                     inpM_SetMap const& sets,
                                                     inpM_IdMap const& ids) {
-    if (!keyword.Data().HasValue(line, column)) return;  // absent or blank
-    cow_String const datum = keyword.Data().AsString(line, column);
-    cow_String const result = Fixup(keyword, datum, sets, ids, cow_String());
-    if (result != datum) WriteItem(keyword, line, column, result);
+    inp_RewriteDataItem(keyword, line, column, [&](cow_String const& datum) {
+        return Fixup(keyword, datum, sets, ids, cow_String());
+    });
 }
 
 void inp_SetFixupVisitor::ReplaceIdSingleDatum(inp_Keyword& keyword, int line, int column,
@@ -56,7 +50,7 @@ void inp_SetFixupVisitor::ReplaceIdSingleDatum(inp_Keyword& keyword, int line, i
     if (inp_Utils::IsScopedSetId(pieces)) label = pieces.ConstGet(pieces.Length() - 1);
     if (inp_Item(label).Type() != inp_Types::inp_INTEGER) return;  // a name stays
     cow_String const result = Fixup(keyword, datum, sets, ids, cow_String());
-    if (result != datum) WriteItem(keyword, line, column, result);
+    if (result != datum) inp_WriteOwnDataItem(keyword, line, column, result);
 }
 
 void inp_SetFixupVisitor::ReplaceIdOrSetData(inp_Keyword& keyword, std::span<int const> columns,
@@ -75,11 +69,9 @@ void inp_SetFixupVisitor::ReplaceIdOrSetAllData(inp_Keyword& keyword, inpM_SetMa
 
 void inp_SetFixupVisitor::ReplaceIdOrSetParameter(inp_Keyword& keyword, cow_String const& name,
                                                   inpM_SetMap const& sets, inpM_IdMap const& ids) {
-    inp_Item const* value = keyword.Parameters().Find(name);
-    if (value == nullptr || value->Type() == inp_Types::inp_NONE) return;
-    cow_String const datum = value->AsString();
-    cow_String const result = Fixup(keyword, datum, sets, ids, name);
-    if (result != datum) keyword.SetParameter(name, inp_Item(result));
+    inp_RewriteParameter(keyword, name, [&](cow_String const& datum) {
+        return Fixup(keyword, datum, sets, ids, name);
+    });
 }
 
 // -- the node or element maps chosen -------------------------------------------------

@@ -154,10 +154,6 @@ class inp_SetFixupVisitor : public inp_Visitor {
     void VisitTemperature(inp_Keyword& keyword) override;
 
   protected:
-    // Writes one item; the first change gives the keyword lines of its own
-    // (inp_OwnDataWrite.h).
-    static void WriteItem(inp_Keyword& keyword, int line, int column, cow_String const& text);
-
     inpM_SetMap const& NodeSets() const { return m_nodeSets; }
     inpM_SetMap const& ElementSets() const { return m_elementSets; }
     inpM_IdMap const& NodeIds() const { return m_nodeIds; }

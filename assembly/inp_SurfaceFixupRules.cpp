@@ -1,39 +1,19 @@
 // The keywords whose surface names stand where their parameters say: one
 // handler each. None of them also has rows in the table of plain positions.
 
-#include <initializer_list>
-#include <string_view>
-
+#include "assembly/inp_KeywordRewrite.h"
 #include "assembly/inp_SurfaceFixupVisitor.h"
-#include "deck/inp_Item.h"
 
 namespace {
 
 constexpr int kFirst[] = {0};
 constexpr int kPair[] = {0, 1};
 
-bool valueIs(inp_Keyword const& keyword, char const* name,
-             std::initializer_list<std::string_view> words) {
-    inp_Item const* value = keyword.Parameters().Find(name);
-    if (value == nullptr) return false;
-    cow_String const text = value->AsString();
-    for (std::string_view word : words)
-        if (text.View() == word) return true;
-    return false;
-}
-
-// A number among the values of a line is no surface.
-bool isNumberText(cow_String const& text) {
-    if (text.IsEmpty()) return false;
-    char const first = text.View().front();
-    return (first >= '0' && first <= '9') || first == '-' || first == '+' || first == '.';
-}
-
 }  // namespace
 
 void inp_SurfaceFixupVisitor::ReplaceSurfaceNameItem(inp_Keyword& keyword, int line, int column) {
     if (!keyword.Data().HasValue(line, column)) return;
-    if (isNumberText(keyword.Data().AsString(line, column))) return;
+    if (inp_StartsLikeNumber(keyword.Data().AsString(line, column))) return;
     ReplaceSurfaceItem(keyword, line, column);
 }
 
@@ -53,18 +33,20 @@ void inp_SurfaceFixupVisitor::VisitContactControlsAssignment(inp_Keyword& keywor
 }
 
 void inp_SurfaceFixupVisitor::VisitContactInterference(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"CONTACTPAIR"})) ReplaceSurfaceData(keyword, kPair, 1, 0);
+    if (inp_ParameterIsOneOf(keyword, "type", {"CONTACTPAIR"}))
+        ReplaceSurfaceData(keyword, kPair, 1, 0);
 }
 
 // The stabilization is given per pair of surfaces, except where a RESET
 // line only switches the earlier stabilization off.
 void inp_SurfaceFixupVisitor::VisitContactStabilization(inp_Keyword& keyword) {
-    if (!keyword.HasParameter("reset") || valueIs(keyword, "scaleadaptive", {"USERADAPTIVE"}))
+    if (!keyword.HasParameter("reset") ||
+        inp_ParameterIsOneOf(keyword, "scaleadaptive", {"USERADAPTIVE"}))
         ReplaceSurfaceData(keyword, kPair, 1, 0);
 }
 
 void inp_SurfaceFixupVisitor::VisitCoSimulationRegion(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"SURFACE", "DISCRETE"}))
+    if (inp_ParameterIsOneOf(keyword, "type", {"SURFACE", "DISCRETE"}))
         ReplaceSurfaceData(keyword, kFirst, 1, 0);
 }
 
@@ -76,15 +58,18 @@ void inp_SurfaceFixupVisitor::VisitFastener(inp_Keyword& keyword) {
 }
 
 void inp_SurfaceFixupVisitor::VisitInitialConditions(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"CONTACT"})) ReplaceSurfaceData(keyword, kPair, 1, 0);
+    if (inp_ParameterIsOneOf(keyword, "type", {"CONTACT"}))
+        ReplaceSurfaceData(keyword, kPair, 1, 0);
 }
 
 void inp_SurfaceFixupVisitor::VisitModelChange(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"CONTACTPAIR"})) ReplaceSurfaceData(keyword, kPair, 1, 0);
+    if (inp_ParameterIsOneOf(keyword, "type", {"CONTACTPAIR"}))
+        ReplaceSurfaceData(keyword, kPair, 1, 0);
 }
 
 void inp_SurfaceFixupVisitor::VisitNormal(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"CONTACTSURFACE"})) ReplaceSurfaceData(keyword, kFirst, 1, 0);
+    if (inp_ParameterIsOneOf(keyword, "type", {"CONTACTSURFACE"}))
+        ReplaceSurfaceData(keyword, kFirst, 1, 0);
 }
 
 // The first line names the surfaces of the medium.
@@ -108,7 +93,7 @@ void inp_SurfaceFixupVisitor::VisitSpotWeld(inp_Keyword& keyword) {
 }
 
 void inp_SurfaceFixupVisitor::VisitSubmodel(inp_Keyword& keyword) {
-    if (valueIs(keyword, "type", {"ACOUSTICTOSTRUCTURE", "SURFACE"}))
+    if (inp_ParameterIsOneOf(keyword, "type", {"ACOUSTICTOSTRUCTURE", "SURFACE"}))
         ReplaceSurfaceData(keyword, kFirst, 1, 0);
 }
 

@@ -3,7 +3,7 @@
 
 #include "assembly/inp_SurfaceFixupVisitor.h"
 
-#include "assembly/inp_OwnDataWrite.h"
+#include "assembly/inp_KeywordRewrite.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_Item.h"
 #include "mesh/inp_Utils.h"
@@ -23,10 +23,8 @@ cow_String inp_SurfaceFixupVisitor::Fixup(inp_Keyword const& keyword, cow_String
 }
 
 void inp_SurfaceFixupVisitor::ReplaceSurfaceItem(inp_Keyword& keyword, int line, int column) {
-    if (!keyword.Data().HasValue(line, column)) return;
-    cow_String const name = keyword.Data().AsString(line, column);
-    cow_String const result = Fixup(keyword, name);
-    if (result != name) inp_WriteOwnDataItem(keyword, line, column, result);
+    inp_RewriteDataItem(keyword, line, column,
+                        [&](cow_String const& name) { return Fixup(keyword, name); });
 }
 
 void inp_SurfaceFixupVisitor::ReplaceSurfaceData(inp_Keyword& keyword, std::span<int const> columns,
@@ -44,11 +42,8 @@ void inp_SurfaceFixupVisitor::ReplaceSurfaceAllData(inp_Keyword& keyword) {
 
 void inp_SurfaceFixupVisitor::ReplaceSurfaceParameter(inp_Keyword& keyword,
                                                       cow_String const& name) {
-    inp_Item const* value = keyword.Parameters().Find(name);
-    if (value == nullptr || value->Type() == inp_Types::inp_NONE) return;
-    cow_String const surface = value->AsString();
-    cow_String const result = Fixup(keyword, surface);
-    if (result != surface) keyword.SetParameter(name, inp_Item(result));
+    inp_RewriteParameter(keyword, name,
+                         [&](cow_String const& surface) { return Fixup(keyword, surface); });
 }
 
 void inp_SurfaceFixupVisitor::DefaultAction(inp_Keyword& keyword) {

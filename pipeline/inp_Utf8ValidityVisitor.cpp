@@ -1,6 +1,6 @@
 #include "pipeline/inp_Utf8ValidityVisitor.h"
 
-#include "assembly/inp_OwnDataWrite.h"
+#include "assembly/inp_KeywordRewrite.h"
 #include "deck/inp_Item.h"
 #include "mesh/inp_Utils.h"
 #include "support/ZELString.h"
