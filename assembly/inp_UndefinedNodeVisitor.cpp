@@ -142,6 +142,26 @@ void inp_UndefinedNodeVisitor::VisitSlideLine(inp_Keyword& keyword) {
     inp_SetFixupVisitor::VisitSlideLine(keyword);
 }
 
+void inp_UndefinedNodeVisitor::AddUndefinedElementNodes(
+    inpM_InstanceMap<inp_MapInt2Element> const& elements) {
+    if (!m_coordinates.IsMember(fake()) || !elements.IsMember(fake()) ||
+        !elements.ConstGetMap(fake()).HasValue())
+        return;
+    inp_CoordMap& nodes = m_coordinates.Get(fake());
+    constexpr int kBlankNode = -91440;  // a blank connectivity item
+    for (inp_MapInt2ElementSIT it(elements.ConstGet(fake())); it.NotDone(); it.Next()) {
+        inp_Element const& element = it.CurrentValue();
+        int const* labels = element.nodes();
+        for (int i = 0; i < element.numNodesPerElement(); ++i) {
+            int const label = labels[i];
+            if (label == kBlankNode || label == 0 || nodes.IsMember(label)) continue;
+            if (m_warn)
+                AddWarning(atr("Undefined node %s was detected and placed at the origin. ", label));
+            nodes.Insert(label, inp_Coord());
+        }
+    }
+}
+
 void inp_UndefinedNodeVisitor::AddUndefinedSetNodes(inpM_SetMap const& sets) {
     if (!m_coordinates.IsMember(fake())) return;
     inp_CoordMap& nodes = m_coordinates.Get(fake());

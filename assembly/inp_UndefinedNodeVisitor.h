@@ -8,7 +8,9 @@
 
 #include "assembly/inp_SetFixupVisitor.h"
 #include "mesh/inp_CoordMap.h"
+#include "mesh/inp_MapInt2Element.h"
 #include "support/cow_List.h"
+#include "support/inpM_InstanceMap.h"
 
 class inpM_BaseSet;
 
@@ -36,6 +38,10 @@ class inp_UndefinedNodeVisitor : public inp_SetFixupVisitor {
     // For a restart job, whose sets may hold nodes of the earlier model:
     // every set of `sets`, nested ones included, gets its missing nodes.
     void AddUndefinedSetNodes(inpM_SetMap const& sets);
+    // The nodes that the elements under "FAKE" name but the coordinates lack
+    // are placed at the origin, each with the undefined node warning (when
+    // warning at all), which then has no keyword to point at.
+    void AddUndefinedElementNodes(inpM_InstanceMap<inp_MapInt2Element> const& elements);
     // Puts each node of `set` that `coordinates` lacks at the origin. True
     // if the set had such nodes.
     static bool AddAssemblySetNodes(inpM_BaseSet const& set, inp_CoordMap& coordinates);

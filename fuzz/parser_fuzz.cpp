@@ -121,6 +121,7 @@ void runTheRoad(ScratchDirectory const& files) {
     // The mesh walks read the expanded flat list, as the extraction of a
     // flat deck will; then the road goes on.
     std::size_t const made = static_cast<std::size_t>(RunMeshWalks(input.GetKeywords()));
+    RunFakePartStages(input);
     input.Reorganize();
     RunExtractionStages(input);
     cow_List<inp_Keyword> const& tree = input.Keywords();

@@ -31,6 +31,10 @@ class inp_MapInt2Element {
     inp_Element* GetEltPtr(int label);
     inp_Element const* GetEltPtr(int label) const;
 
+    // Takes the record out of the table, for all its holders, and hands it
+    // to the caller to own; null for a label that is no member.
+    inp_Element* TakePtr(int label) { return HasTable() ? m_table->Release(label) : nullptr; }
+
     bool IsMember(int const& label) const;
     int Size() const;
     bool IsEmpty() const { return Size() == 0; }

@@ -61,6 +61,14 @@ bool omi_IntTableElement::InsertPtr(int label, inp_Element* owned) {
     }
 }
 
+inp_Element* omi_IntTableElement::Release(int label) {
+    inp_Element* const* const slot = Base::Lookup(label);
+    if (slot == nullptr) return nullptr;
+    inp_Element* const record = *slot;
+    Base::Remove(label);
+    return record;
+}
+
 inp_Element const* omi_IntTableElement::Lookup(int label) const {
     inp_Element* const* const slot = Base::Lookup(label);
     return slot ? *slot : nullptr;

@@ -42,6 +42,10 @@ class omi_IntTableElement : private omi_IntTable<inp_Element*> {
     // fail, `owned` is destroyed too, since it was handed over.
     bool InsertPtr(int label, inp_Element* owned);
 
+    // Takes the record of `label` out of the table and hands it, with its
+    // ownership, to the caller; null for a label that is no member.
+    inp_Element* Release(int label);
+
     // The record, or null for a label that is no member.
     inp_Element const* Lookup(int label) const;
     inp_Element* LookupWritable(int label);

@@ -106,6 +106,19 @@ class inp_InputFile {
     // interactive pre-processor, which reads the keywords' data itself.
     void ExtractPartMaps(bool atelierCompatible);
     void ExtractAssemblyMaps(bool atelierCompatible);
+    // A flat deck (no *PART, no *ASSEMBLY) made one of parts: its mesh read
+    // under the pseudo part "FAKE", nodes it names but never defines placed
+    // at the origin, then the keyword list rewritten as a generated part
+    // "PART-1", its instance "PART-1-1" and the assembly "Assembly-1" (rigid
+    // surfaces and, for the pre-processor, rigid bodies in parts of their
+    // own). Fills PartCoordMap, PartElementMap, PartNsets, PartElsets,
+    // PartSurfaces, InstancePartNames and the id maps of the numbering, and
+    // scopes the deck's references to the instance. Runs on the flat list.
+    void FakeEnhancements(bool atelierCompatible);
+    // Each instance of `source` that `target` lacks is added.
+    static void MergeInstancePartNames(inpM_InstanceMap<cow_String>& target,
+                                       inpM_InstanceMap<cow_String> const& source);
+
     // The rules of what parts may hold and where node and element data may
     // stand (the part inventory); then, for a parts deck, the part element
     // tables are emptied: the instances hold what they need of them.
@@ -196,9 +209,12 @@ class inp_InputFile {
     void parseStage() { Parse(m_fileName); }
     void namesStage() { ProhibitPeriodInNames(m_keywords); }
     void scopedNamesStage();
+    void organizeStage();
+    void fakePartStage();
     void extractPartMapsStage();
     void extractAssemblyMapsStage();
 
+    inp_Stage m_roadEnd = inp_Stage::Organize;  // the last stage Run was asked for
     cow_List<inp_Keyword> m_assemblyElementKeywords;
     cow_List<inp_Keyword> m_keywords;
     bool m_partsAndAssembly = false;

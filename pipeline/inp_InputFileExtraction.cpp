@@ -124,12 +124,12 @@ void inp_InputFile::CheckOutOfPlace() {
     inp_PrintStageTime("Checking out of place keywords - Elapsed time: ", timer);
 }
 
-// The road runs the extraction for a deck in parts and an assembly; a flat
-// deck gets its maps once it has been rewritten as one part.
+// The road reads the parts of a deck written in parts; a flat deck's part
+// maps are made with its generated part, and both have their assembly read.
 void inp_InputFile::extractPartMapsStage() {
     if (m_partsAndAssembly) ExtractPartMaps(m_options.atelierCompatible);
 }
 
 void inp_InputFile::extractAssemblyMapsStage() {
-    if (m_partsAndAssembly) ExtractAssemblyMaps(m_options.atelierCompatible);
+    if (m_partsAndAssembly || m_fakePartModel) ExtractAssemblyMaps(m_options.atelierCompatible);
 }

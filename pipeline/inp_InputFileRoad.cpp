@@ -17,7 +17,8 @@ struct inp_RoadTable {
         {inp_Stage::Expand, "expand", &inp_InputFile::ExpandKeywords},
         {inp_Stage::ModelParameters, "model-parameters", &inp_InputFile::setModelParameters},
         {inp_Stage::Names, "names", &inp_InputFile::namesStage},
-        {inp_Stage::Organize, "organize", &inp_InputFile::Reorganize},
+        {inp_Stage::Organize, "organize", &inp_InputFile::organizeStage},
+        {inp_Stage::FakePart, "fake-part", &inp_InputFile::fakePartStage},
         {inp_Stage::ScopedNames, "scoped-names", &inp_InputFile::scopedNamesStage},
         {inp_Stage::PartMaps, "part-maps", &inp_InputFile::extractPartMapsStage},
         {inp_Stage::AssemblyMaps, "assembly-maps", &inp_InputFile::extractAssemblyMapsStage},
@@ -48,11 +49,20 @@ inp_StageInfo const* inp_InputFile::FindStage(std::string_view name) {
     return nullptr;
 }
 
+// A flat deck is made parts before it is organized, as the fake part reads
+// the flat list; so on a road that goes on past the organizer, the organizer
+// runs within the fake part stage, on the rewritten list.
+void inp_InputFile::organizeStage() {
+    if (!m_partsAndAssembly && m_roadEnd > inp_Stage::Organize) return;
+    Reorganize();
+}
+
 inp_Stage inp_InputFile::Run(cow_String const& fileName, inp_Stage last, RunRule rule,
                              StageObserver const& afterStage) {
     int const lastIndex = static_cast<int>(last);
     ZELBAS_ASSERT(lastIndex >= 0 && lastIndex < static_cast<int>(std::size(kStages)));
     m_fileName = fileName;
+    m_roadEnd = last;
     wip_WIP const& sink = thr_ThreadSingleton<wip_WIP>::Instance();
     for (int index = 0;; ++index) {
         int const errorsBefore = sink.ErrorCount();

@@ -8,9 +8,10 @@ enum class inp_Stage : int {
     ModelParameters,  // the sizes and facts of the model gathered
     Names,            // no period in the names the deck defines
     Organize,         // the flat list made a tree of keywords and their suboptions
+    FakePart,         // a flat deck: rewritten as a generated part, instance and assembly
     ScopedNames,      // a parts deck: references by the assembly's full name shortened
     PartMaps,         // a parts deck: the mesh of every part read into maps
-    AssemblyMaps,     // a parts deck: the instances placed, the assembly's mesh read
+    AssemblyMaps,     // the instances placed, the assembly's mesh read
     OutOfPlace,       // what parts hold and where node and element data stand
 };
 

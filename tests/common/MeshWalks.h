@@ -33,6 +33,20 @@ inline int RunMeshWalks(cow_List<inp_Keyword>& keywords) {
     return made;
 }
 
+// The fake part of each reader (the solver's, the pre-processor's, the
+// converter's) over a copy of an expanded flat list, then the stages that
+// follow it on the road, whatever the deck is made of.
+inline void RunFakePartStages(inp_InputFile const& expanded) {
+    for (int reader = 0; reader < 3; ++reader) {
+        inp_InputFile input = expanded;
+        input.SetInOdbConverter(reader == 2);
+        input.FakeEnhancements(reader == 1);
+        input.Reorganize();
+        input.ExtractAssemblyMaps(reader == 1);
+        input.CheckOutOfPlace();
+    }
+}
+
 // The name stages and the extraction stages over an organized deck, called
 // directly so that they run whatever the deck is made of (the road runs the
 // period removal for flat decks only, the scoped names and the map

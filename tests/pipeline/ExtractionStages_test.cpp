@@ -120,7 +120,7 @@ TEST_F(ExtractionStages, APartsDeckBecomesPartMapsAndSharedInstances) {
     }
 }
 
-TEST_F(ExtractionStages, StagesStopWhereAskedAndFlatDecksWaitForTheirPart) {
+TEST_F(ExtractionStages, StagesStopWhereAskedAndFlatDecksAreReadAsTheirPart) {
     inp_InputFile parts;
     run(parts, kPartsDeck, inp_Stage::PartMaps);
     EXPECT_TRUE(parts.PartElementMap().IsMember("BRICK"));
@@ -131,8 +131,8 @@ TEST_F(ExtractionStages, StagesStopWhereAskedAndFlatDecksWaitForTheirPart) {
                   inp_Stage::OutOfPlace),
               inp_Stage::OutOfPlace);
     EXPECT_EQ(diagnostics(), "");
-    EXPECT_TRUE(flat.PartCoordMap().Instances().IsEmpty());
-    EXPECT_FALSE(flat.AssemblyElementMap().HasValue());
+    EXPECT_EQ(flat.PartCoordMap().Instances(), cow_List<cow_String>{cow_String("PART-1")});
+    EXPECT_EQ(flat.AssemblyElementMap().ConstGet("PART-1-1").Size(), 1);
 }
 
 TEST_F(ExtractionStages, DataInBothAPartAndItsInstanceIsReportedAndTheMapsKeepWhatWasGood) {

@@ -33,6 +33,7 @@ TEST(RandomDeckStages, RandomDecksGoThroughParseExpansionAndOrganizationWithDiag
             input.Parse(path);
             input.ExpandKeywords();
             RunMeshWalks(input.GetKeywords());
+            RunFakePartStages(input);
             input.Reorganize();
             RunExtractionStages(input);
         }) << "seed "
@@ -63,6 +64,7 @@ TEST(RandomDeckStages, RandomMeshDecksGoThroughTheMeshWalksWithDiagnosticsOnly) 
         ASSERT_NO_THROW({
             input.Run(path, inp_Stage::Expand, inp_InputFile::RunRule::RunThrough);
             made += RunMeshWalks(input.GetKeywords());
+            RunFakePartStages(input);
             input.Reorganize();
             RunExtractionStages(input);
         }) << "seed "

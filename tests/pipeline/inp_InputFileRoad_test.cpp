@@ -33,7 +33,7 @@ TEST_F(InputFileRoad, StagesAreNamedInRoadOrder) {
     std::vector<std::string> names;
     for (inp_StageInfo const& stage : inp_InputFile::Stages()) names.emplace_back(stage.name);
     EXPECT_EQ(names, (std::vector<std::string>{"parse", "expand", "model-parameters", "names",
-                                               "organize", "scoped-names", "part-maps",
+                                               "organize", "fake-part", "scoped-names", "part-maps",
                                                "assembly-maps", "out-of-place"}));
     ASSERT_NE(inp_InputFile::FindStage("expand"), nullptr);
     EXPECT_EQ(inp_InputFile::FindStage("expand")->stage, inp_Stage::Expand);

@@ -319,15 +319,20 @@ TEST_F(FedeckModel, StopsWhereTheUserAsksAndShowsWhatWasBuiltThen) {
     EXPECT_EQ(organized["partsAndAssembly"].number, 1.0);
 }
 
-TEST_F(FedeckModel, FlatDeckHasNoPartMapsYet) {
+// A flat deck is shown as the part it was made: "PART-1" with one instance.
+TEST_F(FedeckModel, FlatDeckShowsItsGeneratedPartAndInstance) {
     Outcome const run = model("*HEADING\n*NODE, NSET=ALL\n1, 0., 0.\n2, 1., 0.\n");
     EXPECT_EQ(run.status, 0);
     Json const json = run.Model();
     EXPECT_EQ(json["partsAndAssembly"].number, 0.0);
-    EXPECT_TRUE(json["parts"].members.empty());
-    EXPECT_TRUE(json["assembly"]["nodes"].items.empty());
-    EXPECT_TRUE(json["assembly"]["instances"].members.empty());
-    expectCounts(json["counts"], {0, 0, 0, 0, 0, 0, 0});
+    EXPECT_EQ(json["fakePartModel"].number, 1.0);
+    EXPECT_EQ(json["parts"].order, std::vector<std::string>{"PART-1"});
+    EXPECT_EQ(json["parts"]["PART-1"]["nodes"].items.size(), 2u);
+    EXPECT_EQ(json["assembly"]["instances"].order, std::vector<std::string>{"PART-1-1"});
+    expectCounts(json["counts"], {1, 1, 2, 0, 1, 0, 0});  // ALL is the part's
+    Json const organized = model("*HEADING\n*NODE\n1, 0., 0.\n", {"--until=organize"}).Model();
+    EXPECT_TRUE(organized["parts"].members.empty());
+    EXPECT_EQ(organized["fakePartModel"].number, 0.0);
 }
 
 // An analytical surface beside solid elements breaks a rule of parts: the

@@ -1,4 +1,4 @@
-#include "pipeline/inp_KeywordsRearranger.h"
+#include "assembly/inp_KeywordsRearranger.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "pipeline/inp_RigidKeywordPositions.h"
+#include "assembly/inp_RigidKeywordPositions.h"
 
 bool inp_RigidKeywordPositions::InsertRigidBody(std::int32_t index) {
     if (m_hasRigidBody) return false;

@@ -9,7 +9,7 @@
 // hold an entry whose key is not its surface's name.
 
 #include "deck/inp_Keyword.h"
-#include "pipeline/inp_RigidKeywordPositions.h"
+#include "assembly/inp_RigidKeywordPositions.h"
 #include "support/cow_List.h"
 #include "support/cow_Map.h"
 #include "support/cow_String.h"

@@ -1,0 +1,368 @@
+// Flat decks made parts: the road of a deck without *PART and *ASSEMBLY
+// gives it the generated part "PART-1", its instance and the assembly, puts
+// each keyword where it belongs, and scopes the references that now stand
+// outside the part. The tree is read back as the deck text it prints.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "assembly/inp_FakePartVisitor.h"
+#include "deck/inp_Item.h"
+#include "pipeline/inp_InputFile.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
+#include "tests/common/TempDeckDirectory.h"
+
+namespace {
+
+wip_WIP& sink() {
+    return thr_ThreadSingleton<wip_WIP>::Instance();
+}
+
+constexpr char kBrick[] = R"(*NODE
+1, 0., 0., 0.
+2, 1., 0., 0.
+3, 1., 1., 0.
+4, 0., 1., 0.
+5, 0., 0., 1.
+6, 1., 0., 1.
+7, 1., 1., 1.
+8, 0., 1., 1.
+*ELEMENT, TYPE=C3D8, ELSET=ALL
+1, 1, 2, 3, 4, 5, 6, 7, 8
+)";
+
+enum class Reader { Solver, PreProcessor, Converter };
+
+class FakePart : public ::testing::Test {
+  protected:
+    void SetUp() override { sink().Clear(); }
+    void TearDown() override { sink().Clear(); }
+
+    // The road of a new job through `last`, for the reader given.
+    inp_Stage run(std::string const& deck, Reader reader = Reader::Solver,
+                  inp_Stage last = inp_Stage::OutOfPlace) {
+        inp_InputFileOptions options;
+        options.atelierCompatible = reader == Reader::PreProcessor;
+        input = inp_InputFile(options);
+        input.SetInOdbConverter(reader == Reader::Converter);
+        return input.Run(dir.Write("flat.inp", deck), last, inp_InputFile::RunRule::RunThrough);
+    }
+    // The tree as lines of folded deck text, depth first, parameters in
+    // name order: "*instance, name=PART-1-1, part=PART-1", then data lines.
+    std::vector<std::string> tree() const {
+        std::vector<std::string> lines;
+        outline(input.Keywords(), lines);
+        return lines;
+    }
+    static void outline(cow_List<inp_Keyword> const& keywords, std::vector<std::string>& lines) {
+        for (inp_Keyword const& keyword : keywords) {
+            std::string line = "*" + std::string(keyword.Name().View());
+            keyword.Parameters().ForEachSorted([&](cow_String const& name, inp_Item const& value) {
+                line += ", " + std::string(name.View());
+                if (value.Type() != inp_Types::inp_BOOLEAN)
+                    line += "=" + std::string(value.AsString().View());
+            });
+            lines.push_back(line);
+            inp_DataArray const& data = keyword.Data();
+            for (int row = 0; row < data.Rows(); ++row) {
+                std::string items;
+                for (int column = 0; column < data.Cols(row); ++column)
+                    items +=
+                        (column > 0 ? ", " : "") + std::string(data.AsString(row, column).View());
+                lines.push_back(items);
+            }
+            outline(keyword.Suboptions(), lines);
+        }
+    }
+    // The index of the first line that is `line`, from `from` on; -1 if none.
+    int indexOf(std::string const& line, int from = 0) const {
+        std::vector<std::string> const lines = tree();
+        for (int i = from; i < static_cast<int>(lines.size()); ++i)
+            if (lines[i] == line) return i;
+        return -1;
+    }
+    static std::string diagnostics() {
+        std::string text;
+        for (wip_Diagnostic const& diagnostic : sink().Diagnostics())
+            text += std::string(diagnostic.text.View()) + "\n";
+        return text;
+    }
+    static bool said(std::string const& piece) {
+        return diagnostics().find(piece) != std::string::npos;
+    }
+
+    TempDeckDirectory dir;
+    inp_InputFile input;
+};
+
+std::string joined(std::vector<std::string> const& lines) {
+    std::string text;
+    for (std::string const& line : lines) text += line + "\n";
+    return text;
+}
+
+}  // namespace
+
+// The smallest flat deck: the part holds an *ELEMENT header, the assembly
+// one instance of it.
+TEST_F(FakePart, OneNodeAndOneElementBecomeAPartWithItsInstance) {
+    run("*NODE\n1, 0., 0., 0.\n2, 1., 0., 0.\n*ELEMENT, TYPE=T3D2\n1, 1, 2\n");
+    EXPECT_EQ(joined(tree()),
+              "*part, name=PART-1\n*element, type=T3D2\n*endpart\n"
+              "*assembly, name=Assembly-1\n"
+              "*instance, name=PART-1-1, part=PART-1\n*endinstance\n"
+              "*endassembly\n")
+        << diagnostics();
+    EXPECT_TRUE(input.IsFakePartModel());
+    EXPECT_EQ(input.PartElementMap().ConstGet("PART-1").Size(), 1);
+    EXPECT_EQ(input.PartCoordMap().ConstGet("PART-1").Count(), 2);
+    EXPECT_EQ(input.InstancePartNames().ConstGet("PART-1-1"), cow_String("PART-1"));
+    // The instance holds the part's mesh at the assembly level.
+    EXPECT_EQ(input.AssemblyCoordMap().ConstGet("PART-1-1").Count(), 2);
+}
+
+// `--until organize` still shows the deck as written.
+TEST_F(FakePart, TheOrganizerAloneLeavesTheDeckFlat) {
+    run(kBrick, Reader::Solver, inp_Stage::Organize);
+    EXPECT_EQ(indexOf("*part, name=PART-1"), -1);
+    EXPECT_FALSE(input.IsFakePartModel());
+}
+
+TEST_F(FakePart, KeywordsGoToTheirLevelsAndReferencesOutsideThePartAreScoped) {
+    run(std::string(kBrick) + R"(*NSET, NSET=BASE
+1, 2, 3, 4
+*SURFACE, NAME=TOP
+ALL, S2
+*SOLID SECTION, ELSET=ALL, MATERIAL=STEEL
+*MATERIAL, NAME=STEEL
+*ELASTIC
+210000., 0.3
+*BOUNDARY
+BASE, ENCASTRE
+*DSLOAD
+TOP, P, 1.
+*STEP
+*STATIC
+*CLOAD
+7, 3, 10.
+*DSLOAD
+TOP, P, 5.
+*OUTPUT, FIELD
+*NODE OUTPUT, NSET=BASE
+U
+*END STEP
+)");
+    std::vector<std::string> const lines = tree();
+    std::string const text = joined(lines);
+    EXPECT_FALSE(sink().HasErrors()) << diagnostics();
+    int const part = indexOf("*part, name=PART-1");
+    int const endPart = indexOf("*endpart");
+    int const assembly = indexOf("*assembly, name=Assembly-1");
+    int const step = indexOf("*step, name=Step-1");
+    ASSERT_TRUE(part == 0 && endPart > part && assembly > endPart && step > assembly) << text;
+    // The part: its sets, its section and the element header.
+    EXPECT_GT(indexOf("*nset, generate, nset=BASE"), part);
+    EXPECT_LT(indexOf("*nset, generate, nset=BASE"), endPart);
+    EXPECT_LT(indexOf("*solidsection, elset=ALL, material=STEEL"), endPart);
+    EXPECT_EQ(indexOf("*element, type=C3D8"), endPart - 1);
+    // The model level after the parts; the boundary on the part's set scoped.
+    EXPECT_GT(indexOf("*material, name=STEEL"), endPart);
+    EXPECT_EQ(lines[indexOf("*boundary") + 1].find("PART-1-1.BASE"), 0u) << text;
+    // The element surface at the assembly, on the instance's set; a
+    // distributed load outside a step is gone without a word.
+    int const surface = indexOf("*surface, name=TOP");
+    EXPECT_GT(surface, assembly);
+    EXPECT_EQ(lines[surface + 1].find("PART-1-1.ALL"), 0u) << text;
+    EXPECT_EQ(indexOf("*dsload"), indexOf("*dsload", step));
+    // In the step: the node label scoped, the assembly surface as it was.
+    EXPECT_EQ(lines[indexOf("*cload") + 1].find("PART-1-1.7"), 0u) << text;
+    EXPECT_EQ(lines[indexOf("*dsload") + 1].find("TOP"), 0u) << text;
+    EXPECT_NE(indexOf("*nodeoutput, nset=PART-1-1.BASE"), -1) << text;
+    // The maps: the sets belong to the part.
+    EXPECT_TRUE(input.PartNsets().HasNestedSet("PART-1", "BASE"));
+    EXPECT_TRUE(input.PartElsets().HasNestedSet("PART-1", "ALL"));
+}
+
+TEST_F(FakePart, KeywordsOfAParentFollowItAndAMisplacedOneIsReported) {
+    run(std::string(kBrick) + R"(*SOLID SECTION, ELSET=ALL, MATERIAL=STEEL
+*FRICTION
+0.1
+*SURFACE INTERACTION, NAME=ROUGH
+*FRICTION
+0.3
+*MATERIAL, NAME=STEEL
+*DAMPING, ALPHA=0.1
+*ELASTIC
+210000., 0.3
+)");
+    EXPECT_TRUE(said("Misplaced keyword.")) << diagnostics();
+    int const interaction = indexOf("*surfaceinteraction, name=ROUGH");
+    ASSERT_NE(interaction, -1);
+    EXPECT_EQ(indexOf("*friction"), interaction + 1);
+    EXPECT_EQ(tree()[interaction + 2], "0.3");
+    EXPECT_EQ(indexOf("*damping, alpha=0.1"), indexOf("*material, name=STEEL") + 1);
+}
+
+// Item 2 of a line is what every even item of it becomes.
+TEST_F(FakePart, PrestressHoldScopesEveryEvenItemFromTheSecond) {
+    run(std::string(kBrick) + "*STEP\n*STATIC\n*PRESTRESS HOLD\nA, B, C, D\n*END STEP\n");
+    int const hold = indexOf("*prestresshold");
+    ASSERT_NE(hold, -1) << joined(tree());
+    EXPECT_EQ(tree()[hold + 1], "A, PART-1-1.B, C, PART-1-1.B");
+}
+
+TEST_F(FakePart, NodesThatElementsNameButNoNodeDefinesArePlacedAtTheOrigin) {
+    run("*NODE\n1, 1., 2., 3.\n2, 1., 0., 0.\n*ELEMENT, TYPE=T3D2\n1, 1, 2\n2, 2, 9\n");
+    EXPECT_TRUE(said("Undefined node 9 was detected and placed at the origin. ")) << diagnostics();
+    inp_CoordMap const& nodes = input.PartCoordMap().ConstGet("PART-1");
+    ASSERT_TRUE(nodes.IsMember(9));
+    EXPECT_EQ(nodes.ConstGet(9).x, 0.0);
+    EXPECT_EQ(nodes.ConstGet(1).z, 3.0);
+}
+
+TEST_F(FakePart, UndefinedNodesOfLoadsAndSetsAreWarnedOnceAndPlaced) {
+    run(std::string(kBrick) + R"(*NSET, NSET=EXTRA
+20, 21
+*STEP
+*STATIC
+*CLOAD
+30, 1, 1.
+30, 2, 1.
+EXTRA, 3, 1.
+*END STEP
+)");
+    std::string const text = diagnostics();
+    size_t const first = text.find("Undefined node 30 was detected");
+    ASSERT_NE(first, std::string::npos) << text;
+    EXPECT_EQ(text.find("Undefined node 30 was detected", first + 1), std::string::npos);
+    inp_CoordMap const& nodes = input.PartCoordMap().ConstGet("PART-1");
+    EXPECT_TRUE(nodes.IsMember(30));
+    EXPECT_TRUE(nodes.IsMember(20) && nodes.IsMember(21));
+}
+
+// A deck without elements, or without nodes, still closes.
+TEST_F(FakePart, NodesWithoutElementsAndElementsWithoutNodesStillMakeAModel) {
+    run("*NODE\n1, 0., 0., 0.\n*NSET, NSET=N\n1\n*BOUNDARY\nN, 1\n");
+    EXPECT_NE(indexOf("*part, name=PART-1"), -1);
+    EXPECT_EQ(input.PartCoordMap().ConstGet("PART-1").Count(), 1);
+    run("*ELEMENT, TYPE=T3D2\n1, 1, 2\n");
+    EXPECT_NE(indexOf("*instance, name=PART-1-1, part=PART-1"), -1);
+    EXPECT_EQ(input.PartCoordMap().ConstGet("PART-1").Count(), 2);
+}
+
+// The solver's reader keeps one part; a rigid surface still has a part and
+// instance of its own.
+TEST_F(FakePart, TheSolversReaderKeepsRigidBodiesInThePart) {
+    run(std::string(kBrick) + R"(*NODE
+100, 5., 5., 5.
+*RIGID BODY, REF NODE=100, ANALYTICAL SURFACE=PLANE
+*SURFACE, TYPE=SEGMENTS, NAME=PLANE
+START, 0., 0.
+LINE, 1., 0.
+)");
+    EXPECT_FALSE(sink().HasErrors()) << diagnostics();
+    EXPECT_NE(indexOf("*part, name=PLANE"), -1) << joined(tree());
+    EXPECT_NE(indexOf("*instance, name=PLANE-1, part=PLANE"), -1);
+    EXPECT_TRUE(input.PartCoordMap().ConstGet("PART-1").IsMember(100));
+    EXPECT_NE(indexOf("*rigidbody, analyticalsurface=PLANE-1.PLANE, refnode=PART-1-1.100"), -1)
+        << joined(tree());
+}
+
+TEST_F(FakePart, ThePreProcessorsReaderMakesRigidPartsWithTheirReferenceNodes) {
+    run(std::string(kBrick) + R"(*NODE
+100, 5., 5., 5.
+101, 0., 0., 3.
+102, 1., 0., 3.
+103, 0., 1., 3.
+104, 9., 9., 9.
+*ELEMENT, TYPE=R3D3, ELSET=PLATE
+10, 101, 102, 103
+*ELEMENT, TYPE=SPRING2, ELSET=LINK
+20, 100, 1
+*SPRING, ELSET=LINK
+1, 1
+1000.
+*RIGID BODY, REF NODE=100, ELSET=PLATE
+*RIGID BODY, REF NODE=104, ANALYTICAL SURFACE=CYL
+*RIGID SURFACE, TYPE=CYLINDER, NAME=CYL
+0., 0., 0., 1., 0., 0.
+0., 0., 1.
+START, 1., 0.
+LINE, 1., 1.
+)",
+        Reader::PreProcessor);
+    std::string const text = joined(tree());
+    EXPECT_NE(indexOf("*part, name=PLATE"), -1) << text << diagnostics();
+    EXPECT_NE(indexOf("*part, name=CYL"), -1) << text;
+    // Each reference node in its rigid part, once.
+    EXPECT_TRUE(input.PartCoordMap().ConstGet("PLATE").IsMember(100));
+    EXPECT_TRUE(input.PartCoordMap().ConstGet("CYL").IsMember(104));
+    EXPECT_FALSE(input.PartCoordMap().ConstGet("PART-1").IsMember(100));
+    // A spring between two parts stays at the assembly, its nodes scoped.
+    int const spring = indexOf("*element, type=SPRING2");
+    ASSERT_GT(spring, indexOf("*assembly, name=Assembly-1")) << text;
+    EXPECT_EQ(tree()[spring + 1], "20, PLATE-1.100, PART-1-1.1");
+    EXPECT_GT(indexOf("*spring, elset=LINK"), indexOf("*assembly, name=Assembly-1"));
+    // The cylinder's local system became its instance's position; its
+    // data start at START.
+    int const instance = indexOf("*instance, name=CYL-1, part=CYL");
+    ASSERT_NE(instance, -1) << text;
+    EXPECT_NE(tree()[instance + 1].find("0"), std::string::npos);
+    int const surface = indexOf("*rigidsurface, name=CYL, type=CYLINDER");
+    ASSERT_NE(surface, -1) << text;
+    EXPECT_EQ(tree()[surface + 1].rfind("START", 0), 0u) << text;
+}
+
+TEST_F(FakePart, RigidBodiesNamingMissingSetsAreReported) {
+    run(std::string(kBrick) + "*RIGID BODY, REF NODE=MISSING, ELSET=ALL\n", Reader::PreProcessor);
+    EXPECT_TRUE(
+        said("Reference node set \"MISSING\" given for rigid body \"PART-1\" does not "
+             "exist or is invalid"))
+        << diagnostics();
+    EXPECT_NE(indexOf("*part, name=PART-1"), -1);
+}
+
+// The converter's reader writes the mesh into the list itself.
+TEST_F(FakePart, TheConvertersReaderWritesTheMeshOut) {
+    run(kBrick, Reader::Converter, inp_Stage::FakePart);
+    std::string const text = joined(tree());
+    EXPECT_NE(indexOf("*node"), -1) << text;
+    EXPECT_NE(text.find("1, 1, 2, 3, 4, 5, 6, 7, 8"), std::string::npos) << text;
+    EXPECT_LT(indexOf("*element, type=C3D8"), indexOf("*endpart"));
+}
+
+// Substructure elements, straight from maps: each is a part named by its
+// type, a second of one type "1-" and the type; their nodes leave the flat
+// mesh with them.
+TEST(FakePartVisitor, EachSubstructureElementIsAPartOfItsOwn) {
+    cow_String const fake("FAKE");
+    inp_CoordMap coords;
+    coords.Insert(fake, inp_CoordMap());
+    for (int id = 1; id <= 6; ++id) coords.Get(fake).Insert(id, inp_Coord(id, 0., 0.));
+    inp_MapInt2Element elements;
+    elements.Insert(1, inp_Element(cow_String("C3D4"), cow_List<int>{1, 2, 3, 4}, 4, 0, 0));
+    elements.Insert(7, inp_Element(cow_String("Z12"), cow_String("a.sim"), cow_List<int>{5}, 1));
+    elements.Insert(8, inp_Element(cow_String("Z12"), cow_String("b.sim"), cow_List<int>{6}, 1));
+    inpM_InstanceMap<inp_MapInt2Element> elementMap;
+    elementMap.Insert(fake, elements);
+
+    inp_FakePartVisitor visitor(coords, elementMap, inpM_SetMap(), inpM_SetMap(), false);
+    cow_List<inp_Keyword> none;
+    visitor.VisitList(none);
+    cow_List<inp_Keyword> const keywords = visitor.Keywords();
+    EXPECT_EQ(visitor.ConstGetElementMap().ConstGet("Z12").Size(), 1);
+    EXPECT_EQ(visitor.ConstGetElementMap().ConstGet("1-Z12").Size(), 1);
+    EXPECT_TRUE(visitor.ConstGetCoordMap().ConstGet("Z12").IsMember(5));
+    EXPECT_TRUE(visitor.ConstGetCoordMap().ConstGet("1-Z12").IsMember(6));
+    EXPECT_FALSE(visitor.ConstGetCoordMap().ConstGet("PART-1").IsMember(5));
+    EXPECT_EQ(visitor.ConstGetElementMap().ConstGet("PART-1").Size(), 1);
+    // The substructure's *ELEMENT header carries its file.
+    bool withFile = false;
+    for (inp_Keyword const& keyword : keywords)
+        withFile |= keyword.Is(inp_kw_Element) &&
+                    keyword.GetParameterAsString("file", cow_String()) == cow_String("a.sim");
+    EXPECT_TRUE(withFile);
+}
