@@ -39,17 +39,17 @@ std::unique_ptr<inp_FakePartVisitor> makeFakePartVisitor(
                                                        symmetricGeneration);
 }
 
-// Once the flat maps hold the mesh, its text is not read again: the data of
-// *NODE and *ELEMENT go, so that the deck's text and its maps are not held
-// at once.
-void releaseFlatMeshData(cow_List<inp_Keyword>& keywords) {
+// Once a flat map holds what the *NODE or *ELEMENT keywords said, their
+// data are not read again: they go at once, so that the deck's data and
+// its maps are held together no longer than one map's making.
+void releaseFlatMeshData(cow_List<inp_Keyword>& keywords, inp_KeywordEnm kind) {
     for (int i = 0; i < keywords.Length(); ++i) {
         inp_Keyword const& keyword = keywords.ConstGet(i);
-        if (keyword.Is(inp_kw_Node) && keyword.Data().Rows() > 0) {
-            keywords.Get(i).SetData(inp_DataArray(new inp_NodeDataArrayImpl()));
-        } else if (keyword.Is(inp_kw_Element) && keyword.Data().Rows() > 0) {
-            keywords.Get(i).SetData(inp_DataArray(new inp_ElementDataArrayImpl()));
-        }
+        if (!keyword.Is(kind) || keyword.Data().Rows() == 0) continue;
+        inp_DataArray const empty(kind == inp_kw_Node
+                                      ? static_cast<inp_DataArrayImpl*>(new inp_NodeDataArrayImpl())
+                                      : new inp_ElementDataArrayImpl());
+        keywords.Get(i).SetData(empty);
     }
 }
 
@@ -85,18 +85,19 @@ void inp_InputFile::FakeEnhancements(bool atelierCompatible) {
     inp_FakePartElementVisitor elements(m_assemblyElsets, generate);
     elements.setAtelierCompatible(atelierCompatible);
     elements.VisitListAndReport(m_keywords);
+    if (!atelierCompatible) releaseFlatMeshData(m_keywords, inp_kw_Element);
 
     inp_FakePartNodeVisitor nodes(elements.ConstGetElementMap(), elements.ConstGetSetMap(),
                                   m_assemblyNsets, generate);
     nodes.setAtelierCompatible(atelierCompatible);
     nodes.VisitListAndReport(m_keywords);
+    if (!atelierCompatible) releaseFlatMeshData(m_keywords, inp_kw_Node);
 
     inp_NodeGenerationVisitor implicitNodes(nodes.ConstGetCoordMap(), elements.ConstGetElementMap(),
                                             elements.ConstGetSetMap(), generate, m_restartJob, true,
                                             cow_String(inp_Types::fakeName()));
     implicitNodes.setAtelierCompatible(atelierCompatible);
     implicitNodes.VisitListAndReport(m_keywords);
-    if (!atelierCompatible) releaseFlatMeshData(m_keywords);
 
     inp_CoordMap coordinates = implicitNodes.ConstGetCoordMap();
     if (!m_symmetricModelGeneration) {

@@ -366,3 +366,64 @@ TEST(FakePartVisitor, EachSubstructureElementIsAPartOfItsOwn) {
                     keyword.GetParameterAsString("file", cow_String()) == cow_String("a.sim");
     EXPECT_TRUE(withFile);
 }
+
+// The pre-processor's reader: a set that a part uses and holds is that
+// part's; a set over two parts belongs to the assembly, its members named by
+// instance.
+TEST_F(FakePart, SetsGoToThePartThatHoldsThemOrToTheAssembly) {
+    run(std::string(kBrick) + R"(*NODE
+100, 5., 5., 5.
+101, 0., 0., 3.
+102, 1., 0., 3.
+103, 0., 1., 3.
+*ELEMENT, TYPE=T3D2
+2, 1, 2
+3, 2, 3
+4, 3, 4
+5, 4, 5
+6, 5, 6
+*ELSET, ELSET=BARS
+2, 4, 6
+*ELSET, ELSET=PAIR
+3, 5
+*ELEMENT, TYPE=R3D3, ELSET=PLATE
+10, 101, 102, 103
+*RIGID BODY, REF NODE=100, ELSET=PLATE
+*NSET, NSET=MIXED
+1, 100
+*SOLID SECTION, ELSET=BARS, MATERIAL=STEEL
+*SOLID SECTION, ELSET=PAIR, MATERIAL=STEEL
+*SOLID SECTION, ELSET=NOSUCH, MATERIAL=STEEL
+*ORIENTATION, NAME=BYNODES, DEFINITION=NODES
+100, 2, 4
+*BOUNDARY
+MIXED, 1
+)",
+        Reader::PreProcessor);
+    std::vector<std::string> const lines = tree();
+    std::string const text = joined(lines);
+    int const endPart = indexOf("*endpart");
+    int const bars = indexOf("*elset, elset=BARS, generate");
+    ASSERT_TRUE(bars > 0 && bars < endPart) << text;
+    EXPECT_EQ(lines[bars + 1], "2, 6, 2");
+    // Two members are no progression; a line's items each end in a comma.
+    int const pair = indexOf("*elset, elset=PAIR");
+    ASSERT_TRUE(pair > 0 && pair < endPart) << text;
+    EXPECT_EQ(lines[pair + 1], "3, 5, ");
+    int const mixed = indexOf("*nset, nset=MIXED");
+    ASSERT_GT(mixed, indexOf("*assembly, name=Assembly-1")) << text;
+    EXPECT_EQ(lines[mixed + 1], "PART-1-1.1, PLATE-1.100, ");
+    EXPECT_EQ(lines[indexOf("*boundary") + 1], "MIXED, 1");
+    // An undefined set of a section is a warning; a node of another part
+    // named in a part, an error.
+    EXPECT_TRUE(
+        said("The elset: \"NOSUCH\" is referenced in part: \"PART-1\" and should be "
+             "assigned to this part. The set appears to be undefined."))
+        << diagnostics();
+    EXPECT_TRUE(
+        said("The node: \"100\" is referenced in part: \"PART-1\" and should be assigned "
+             "to this part. It is assigned to the following parts: \"PLATE\"."))
+        << diagnostics();
+    EXPECT_TRUE(input.PartElsets().HasNestedSet("PART-1", "BARS"));
+    EXPECT_FALSE(input.PartNsets().HasNestedSet("PART-1", "MIXED"));
+}
