@@ -20,6 +20,7 @@ set(FEDECK_PUBLIC_HEADER_ROOTS
   pipeline/inp_Module.h
   pipeline/inp_Visitor.h
   pipeline/inp_Utf8ValidityVisitor.h
+  tables/inp_ContactCheck.h
   mesh/inp_NodeVisitor.h
   mesh/inp_ElementVisitor.h
   mesh/inp_NodeGenerationVisitor.h

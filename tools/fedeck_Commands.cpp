@@ -11,6 +11,7 @@
 #include "support/aio_Stream.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
+#include "tables/inp_ContactCheck.h"
 #include "tools/fedeck_Arguments.h"
 #include "tools/fedeck_Encrypt.h"
 #include "tools/fedeck_Model.h"
@@ -63,6 +64,10 @@ class CheckedDeck {
     void runOfferedChecks() {
         inp_Utf8ValidityVisitor utf8;
         utf8.VisitListAndReport(m_deck.GetKeywords());
+        // A deck without *OUTPUT gets the default output, which covers
+        // every contact pair.
+        inp_ContactCheck contact(m_deck.AssemblySurfaces(), m_deck.Keywords());
+        contact.PerformCheck(true);
     }
 
     cow_String m_path;  // as typed: messages name the deck as the user knows it
