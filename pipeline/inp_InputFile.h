@@ -115,6 +115,22 @@ class inp_InputFile {
     // PartSurfaces, InstancePartNames and the id maps of the numbering, and
     // scopes the deck's references to the instance. Runs on the flat list.
     void FakeEnhancements(bool atelierCompatible);
+    // Jobs that copy the model by offsetting its ids (a symmetric model
+    // generation, reflected or revolved) get the copies' ids in the id maps:
+    // the offsets are the largest ids unless the first *SYMMETRIC MODEL
+    // GENERATION gives ELEMENT OFFSET and NODE OFFSET; nothing happens
+    // without one.
+    void AdjustMapsForSymModelGen();
+    void AdjustMapsReflectModel(int elementOffset, int nodeOffset);
+    void AdjustMapsRevolveModel(int elementOffset, int nodeOffset, int segments);
+    // An import job keeps only the assembly sets that its *IMPORT NSET and
+    // *IMPORT ELSET name (and the element sets *IMPORT names), for each
+    // kind only if some keyword of it names any; one that names none is
+    // warned about.
+    void DeleteSetsWhichShouldNotBeImported();
+    // The string items of every line, in order.
+    static cow_List<cow_String> GatherSetNamesFromData(inp_DataArray const& data);
+
     // Each instance of `source` that `target` lacks is added.
     static void MergeInstancePartNames(inpM_InstanceMap<cow_String>& target,
                                        inpM_InstanceMap<cow_String> const& source);
@@ -197,6 +213,9 @@ class inp_InputFile {
     void SetImportedInstanceNames(cow_List<cow_String> const& names) {
         m_importedInstanceNames = names;
     }
+    // The id maps of the earlier job a continuation job goes on from.
+    void SetNodeIdMap(inpM_IdMap const& map) { m_nodeIdMap = map; }
+    void SetElementIdMap(inpM_IdMap const& map) { m_elementIdMap = map; }
     // The sets and surfaces of the job an import job reads from.
     void SetImportedNsets(inpM_SetMap const& sets) { m_importedNsets = sets; }
     void SetImportedElsets(inpM_SetMap const& sets) { m_importedElsets = sets; }

@@ -1,0 +1,97 @@
+// The map adjustments of jobs that continue or copy an earlier model: a
+// symmetric model generation makes copies of the model by offsetting its
+// ids, and an import job keeps only the sets its *IMPORT keywords name.
+
+#include "mesh/inp_Utils.h"
+#include "pipeline/inp_InputFile.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
+
+namespace {
+
+// The segments of a revolved model: the second item of each line from the
+// third on, a line without one, or with one of 1 or less, counting 1.
+int segmentsOf(inp_Keyword const& generation) {
+    inp_DataArray const& data = generation.Data();
+    if (data.Rows() < 3) return 1;
+    int segments = 0;
+    for (int row = 2; row < data.Rows(); ++row) {
+        bool const given = data.Cols(row) > 1 && data.HasValue(row, 1) &&
+                           data.Type(row, 1) == inp_Types::inp_INTEGER;
+        int const value = given ? data.AsInt(row, 1) : 1;
+        segments += value > 1 ? value : 1;
+    }
+    return segments;
+}
+
+}  // namespace
+
+void inp_InputFile::AdjustMapsForSymModelGen() {
+    int elementOffset = m_elementIdMap.LargestId();
+    int nodeOffset = m_nodeIdMap.LargestId();
+    inp_Keyword const* generation = nullptr;
+    for (inp_Keyword const& keyword : m_keywords) {
+        if (!keyword.Is(inp_kw_SymmetricModelGeneration)) continue;
+        generation = &keyword;
+        break;
+    }
+    if (generation == nullptr) return;
+    elementOffset = generation->GetParameterAsInt("elementoffset", elementOffset);
+    nodeOffset = generation->GetParameterAsInt("nodeoffset", nodeOffset);
+    if (generation->HasParameter("revolve")) {
+        AdjustMapsRevolveModel(elementOffset, nodeOffset, segmentsOf(*generation));
+    } else {
+        AdjustMapsReflectModel(elementOffset, nodeOffset);
+    }
+}
+
+void inp_InputFile::AdjustMapsReflectModel(int elementOffset, int nodeOffset) {
+    m_elementIdMap.InsertDuplicateOffsetIds(elementOffset, 1);
+    m_nodeIdMap.InsertDuplicateOffsetIds(nodeOffset, 1);
+}
+
+// The nodes of the last segment are a layer of their own: one copy more.
+void inp_InputFile::AdjustMapsRevolveModel(int elementOffset, int nodeOffset, int segments) {
+    m_elementIdMap.InsertDuplicateOffsetIds(elementOffset, segments - 1);
+    m_nodeIdMap.InsertDuplicateOffsetIds(nodeOffset, segments);
+}
+
+cow_List<cow_String> inp_InputFile::GatherSetNamesFromData(inp_DataArray const& data) {
+    cow_List<cow_String> names;
+    for (int row = 0; row < data.Rows(); ++row)
+        for (int column = 0; column < data.Cols(row); ++column)
+            if (data.Type(row, column) == inp_Types::inp_STRING)
+                names.Append(data.AsString(row, column));
+    return names;
+}
+
+// The keywords stay in the list whatever the warnings say; only the sets go.
+void inp_InputFile::DeleteSetsWhichShouldNotBeImported() {
+    wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
+    cow_List<cow_String> keptNodeSets;
+    cow_List<cow_String> keptElementSets;
+    bool nodeSetsNamed = false;
+    bool elementSetsNamed = false;
+    for (inp_Keyword const& keyword : m_keywords) {
+        bool const nodes = keyword.Is(inp_kw_ImportNset);
+        bool const elements = keyword.Is(inp_kw_ImportElset);
+        if (!nodes && !elements && !keyword.Is(inp_kw_Import)) continue;
+        cow_List<cow_String> const names = GatherSetNamesFromData(keyword.Data());
+        if (!nodes && !elements) {
+            for (cow_String const& name : names) keptElementSets.Append(name);
+            continue;
+        }
+        if (names.IsEmpty()) {
+            sink.Warning(inp_Utils::MessageInKeyword(
+                keyword, nodes ? "This keyword is removed because no NSET name is provided in "
+                                 "the following line."
+                               : "This keyword is removed because no ELSET name is provided in "
+                                 "the following line."));
+            continue;
+        }
+        (nodes ? nodeSetsNamed : elementSetsNamed) = true;
+        for (cow_String const& name : names) (nodes ? keptNodeSets : keptElementSets).Append(name);
+    }
+    if (nodeSetsNamed) m_assemblyNsets.DeleteAllSetsExceptThoseListed(keptNodeSets);
+    if (elementSetsNamed) m_assemblyElsets.DeleteAllSetsExceptThoseListed(keptElementSets);
+}
