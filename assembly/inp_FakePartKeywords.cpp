@@ -19,9 +19,6 @@
 
 namespace {
 
-// The placeholder of a blank connectivity item.
-constexpr int kBlankNode = -91440;
-
 bool contains(cow_String const& text, char const* piece) {
     return text.View().find(piece) != std::string_view::npos;
 }
@@ -42,17 +39,17 @@ std::string numberText(double value) {
     return buffer;
 }
 
-std::string nodeLine(int id, inp_Coord const& coord) {
+}  // namespace
+
+std::string inp_FakePartVisitor::NodeLine(int id, inp_Coord const& coord) {
     char buffer[128];
     std::snprintf(buffer, sizeof buffer, "%i, %lg, %lg, %lg", id, coord.x, coord.y, coord.z);
     return buffer;
 }
 
-void appendLine(inp_Keyword& keyword, std::string const& line) {
+void inp_FakePartVisitor::AppendLine(inp_Keyword& keyword, std::string const& line) {
     keyword.Data().Append(line.c_str());
 }
-
-}  // namespace
 
 bool inp_FakePartVisitor::IsSpringOrDashpotType(cow_String const& type) {
     return contains(type, "SPRING") || contains(type, "DASHPOT");
@@ -333,7 +330,8 @@ void inp_FakePartVisitor::KeywordsEnding(cow_List<inp_Keyword>& result) {
 }
 
 // One *ELEMENT per element left at the assembly level, its nodes named by
-// the instance of the part each belongs to.
+// the instance of the part each belongs to. (The simple form leaves no
+// element there: every node is then "PART-1"'s anyway.)
 void inp_FakePartVisitor::InsertAssemblyElementKeywords() {
     for (inp_MapInt2ElementSIT it(m_fakeElements); it.NotDone(); it.Next()) {
         inp_Element const& element = it.CurrentValue();
@@ -349,7 +347,7 @@ void inp_FakePartVisitor::InsertAssemblyElementKeywords() {
             line += "-1.";
             line += std::to_string(node);
         }
-        appendLine(keyword, line);
+        AppendLine(keyword, line);
         m_assemblyKeywords.Append(keyword);
     }
     m_fakeElements.Clear();
@@ -369,7 +367,7 @@ void inp_FakePartVisitor::AppendNodeKeywords() {
                 continue;
             }
             inp_Keyword node{cow_String("node")};
-            appendLine(node, nodeLine(id, m_partCoords.ConstGet(part).ConstGet(id)));
+            AppendLine(node, NodeLine(id, m_partCoords.ConstGet(part).ConstGet(id)));
             PartKeywordList(part).Append(node);
         }
     });
@@ -418,7 +416,7 @@ cow_List<inp_Keyword> inp_FakePartVisitor::ElementKeywordsOfPart(cow_String cons
                 line += ", " + std::to_string(element.nodes()[i]);
                 nodes.push_back(element.nodes()[i]);
             }
-            appendLine(header, line);
+            AppendLine(header, line);
         }
         keywords.Append(header);
         if (!withData) continue;
@@ -429,7 +427,7 @@ cow_List<inp_Keyword> inp_FakePartVisitor::ElementKeywordsOfPart(cow_String cons
             m_partCoords.IsMember(part) ? &m_partCoords.ConstGet(part) : nullptr;
         for (int const node : nodes)
             if (coords != nullptr && coords->IsMember(node))
-                appendLine(nodeKeyword, nodeLine(node, coords->ConstGet(node)));
+                AppendLine(nodeKeyword, NodeLine(node, coords->ConstGet(node)));
         keywords.Append(nodeKeyword);
     }
     return keywords;
@@ -467,9 +465,9 @@ void inp_FakePartVisitor::AppendInstancePositioningData(inp_Keyword& instance,
     gsl_Vector axis;
     double const degrees = transform.DecomposeAsTranslationThenRotation(translation, axis) * 180.0 /
                            3.14159265358979323846;
-    appendLine(instance, numberText(translation.X()) + ", " + numberText(translation.Y()) + ", " +
+    AppendLine(instance, numberText(translation.X()) + ", " + numberText(translation.Y()) + ", " +
                              numberText(translation.Z()));
     if (std::fabs(degrees) <= 1e-9) return;
-    appendLine(instance, "0, 0, 0, " + numberText(axis.X()) + ", " + numberText(axis.Y()) + ", " +
+    AppendLine(instance, "0, 0, 0, " + numberText(axis.X()) + ", " + numberText(axis.Y()) + ", " +
                              numberText(axis.Z()) + ", " + numberText(degrees));
 }

@@ -296,8 +296,9 @@ void inp_FakePartVisitor::VisitPrestressHoldData(inp_Keyword& keyword) {
         if (!keyword.Data().HasValue(line, 1)) continue;
         cow_String const scoped = withInstancePrefix(keyword.Data().AsString(line, 1));
         for (int column = 1; column < keyword.Data().Cols(line); column += 2)
-            inp_RewriteDataItem(keyword, line, column,
-                                [&scoped](cow_String const&) -> cow_String const& { return scoped; });
+            inp_RewriteDataItem(
+                keyword, line, column,
+                [&scoped](cow_String const&) -> cow_String const& { return scoped; });
     }
 }
 

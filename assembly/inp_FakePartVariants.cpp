@@ -9,22 +9,6 @@
 #include "deck/inp_Item.h"
 #include "mesh/inp_Utils.h"
 
-namespace {
-
-constexpr int kBlankNode = -91440;
-
-void appendLine(inp_Keyword& keyword, std::string const& line) {
-    keyword.Data().Append(line.c_str());
-}
-
-std::string nodeLine(int id, inp_Coord const& coord) {
-    char buffer[128];
-    std::snprintf(buffer, sizeof buffer, "%i, %lg, %lg, %lg", id, coord.x, coord.y, coord.z);
-    return buffer;
-}
-
-}  // namespace
-
 // -- simple ----------------------------------------------------------------------------------
 
 void inp_SimpleFakePartVisitor::VisitEulerianSection(inp_Keyword& keyword) {
@@ -93,24 +77,6 @@ bool inp_SimpleFakePartVisitor::AddElementsAndTheirNodes(cow_String const& part,
     return true;
 }
 
-// As the full form, with every node in "PART-1".
-void inp_SimpleFakePartVisitor::InsertAssemblyElementKeywords() {
-    for (inp_MapInt2ElementSIT it(m_fakeElements); it.NotDone(); it.Next()) {
-        inp_Element const& element = it.CurrentValue();
-        inp_Keyword keyword{cow_String("element")};
-        keyword.SetParameter("type", inp_Item(element.type()));
-        std::string line = std::to_string(it.CurrentKey());
-        for (int i = 0; i < element.numNodesPerElement(); ++i) {
-            line += ", ";
-            if (element.nodes()[i] == kBlankNode) continue;
-            line += kInstancePrefix + std::to_string(element.nodes()[i]);
-        }
-        appendLine(keyword, line);
-        m_assemblyKeywords.Append(keyword);
-    }
-    m_fakeElements.Clear();
-}
-
 cow_List<inp_Keyword> inp_SimpleFakePartVisitor::DiscreteSurfaceKeywords() const {
     cow_List<inp_Keyword> keywords;
     inp_Keyword assembly{cow_String("assembly")};
@@ -137,7 +103,7 @@ void inp_FullFakePartVisitor::AppendNodeKeywords() {
         inp_Keyword node{cow_String("node")};
         inp_MapInt2Coord const nodes = coords.ConstGet();
         for (inp_MapInt2CoordSIT it(nodes); it.NotDone(); it.Next())
-            appendLine(node, nodeLine(it.CurrentKey(), coords.ConstGet(it.CurrentKey())));
+            AppendLine(node, NodeLine(it.CurrentKey(), coords.ConstGet(it.CurrentKey())));
         PartKeywordList(part).Append(node);
     }
 }
@@ -165,7 +131,7 @@ void inp_FullFakePartVisitor::AppendElementKeywords(cow_List<inp_Keyword>& resul
                     if (element.nodes()[i] != kBlankNode)
                         line += std::to_string(element.nodes()[i]);
                 }
-                appendLine(header, line);
+                AppendLine(header, line);
             }
             keywords.Append(header);
         }

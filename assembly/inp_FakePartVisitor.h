@@ -18,6 +18,7 @@
 // (inp_FakePartKeywords.cpp), rigid parts and reference nodes
 // (inp_FakeRigidParts.cpp) and the variants each have a file of their own.
 
+#include <string>
 #include <vector>
 
 #include "deck/inp_Keyword.h"
@@ -153,6 +154,11 @@ class inp_FakePartVisitor : public inp_Visitor {
                                       cow_List<inp_Keyword> const& keywords);
     // The coordinate of `id` in the flat mesh, the default record if none.
     inp_Coord FakeCoordinate(int id) const;
+    // The placeholder of a blank connectivity item.
+    static constexpr int kBlankNode = -91440;
+    // "%i, %lg, %lg, %lg": a node as a data line of *NODE.
+    static std::string NodeLine(int id, inp_Coord const& coord);
+    static void AppendLine(inp_Keyword& keyword, std::string const& line);
     // Spring or dashpot types, and the types of rigid elements.
     static bool IsSpringOrDashpotType(cow_String const& type);
     static bool IsRigidElementType(cow_String const& type);
@@ -230,7 +236,6 @@ class inp_SimpleFakePartVisitor : public inp_FakePartVisitor {
     bool AddElementsAndTheirNodes(cow_String const& part, std::vector<int> const& ids) override;
     void AssignElementsAndKeywords(std::vector<int> const& deformable,
                                    std::vector<int> const& other) override;
-    void InsertAssemblyElementKeywords() override;
 
   private:
     cow_List<inp_Keyword> m_nodeSurfaces;
