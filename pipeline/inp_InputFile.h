@@ -115,6 +115,12 @@ class inp_InputFile {
     // PartSurfaces, InstancePartNames and the id maps of the numbering, and
     // scopes the deck's references to the instance. Runs on the flat list.
     void FakeEnhancements(bool atelierCompatible);
+    // Import in the deck: *IMPORT with *MAP SOLUTION, an *IMPORT without the
+    // part map of an earlier job (unless `continuation` or a restart), and
+    // what inp_ImportValidityVisitor checks, which also makes the keywords
+    // inside an imported instance dead. Runs on the flat list.
+    void CheckImportValidity(bool continuation);
+
     // Jobs that copy the model by offsetting its ids (a symmetric model
     // generation, reflected or revolved) get the copies' ids in the id maps:
     // the offsets are the largest ids unless the first *SYMMETRIC MODEL
@@ -227,6 +233,7 @@ class inp_InputFile {
     // The parse stage of the road: Parse of the deck that Run was given.
     void parseStage() { Parse(m_fileName); }
     void namesStage() { ProhibitPeriodInNames(m_keywords); }
+    void importValidityStage();
     void scopedNamesStage();
     void organizeStage();
     void fakePartStage();

@@ -1,7 +1,9 @@
-// The map adjustments of jobs that continue or copy an earlier model: a
-// symmetric model generation makes copies of the model by offsetting its
-// ids, and an import job keeps only the sets its *IMPORT keywords name.
+// What jobs that continue or copy an earlier model need of the deck: that
+// its import is written correctly, the copies of a symmetric model
+// generation in the id maps, and for an import job only the sets its
+// *IMPORT keywords name.
 
+#include "continuation/inp_ImportValidityVisitor.h"
 #include "mesh/inp_Utils.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
@@ -25,6 +27,32 @@ int segmentsOf(inp_Keyword const& generation) {
 }
 
 }  // namespace
+
+// `continuation`: the job has (or the caller vouches for) the part map of an
+// earlier job, which an import needs.
+void inp_InputFile::CheckImportValidity(bool continuation) {
+    wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
+    bool import = false;
+    bool mapSolution = false;
+    for (inp_Keyword const& keyword : m_keywords) {
+        import |= keyword.Is(inp_kw_Import);
+        mapSolution |= keyword.Is(inp_kw_MapSolution);
+    }
+    if (import && mapSolution)
+        sink.Error("*IMPORT and *MAP SOLUTION (rezoning) cannot be used in the same analysis. ",
+                   wip_LEVEL1);
+    if (import && !continuation && !m_restartJob)
+        sink.Error(
+            "An import analysis requires the part map from a previous job. Please use the "
+            "-oldpartmap command line option to specify it.",
+            wip_LEVEL1);
+    inp_ImportValidityVisitor validity;
+    validity.VisitListAndReport(m_keywords);
+}
+
+void inp_InputFile::importValidityStage() {
+    CheckImportValidity(m_options.atelierCompatible);
+}
 
 void inp_InputFile::AdjustMapsForSymModelGen() {
     int elementOffset = m_elementIdMap.LargestId();

@@ -16,6 +16,7 @@ struct inp_RoadTable {
         {inp_Stage::Parse, "parse", &inp_InputFile::parseStage},
         {inp_Stage::Expand, "expand", &inp_InputFile::ExpandKeywords},
         {inp_Stage::ModelParameters, "model-parameters", &inp_InputFile::setModelParameters},
+        {inp_Stage::ImportValidity, "import-validity", &inp_InputFile::importValidityStage},
         {inp_Stage::Names, "names", &inp_InputFile::namesStage},
         {inp_Stage::Organize, "organize", &inp_InputFile::organizeStage},
         {inp_Stage::FakePart, "fake-part", &inp_InputFile::fakePartStage},

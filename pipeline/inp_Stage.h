@@ -6,6 +6,7 @@ enum class inp_Stage : int {
     Parse,            // the deck's lines into a flat keyword list, include files spliced in
     Expand,           // every keyword checked and normalised by its vocabulary
     ModelParameters,  // the sizes and facts of the model gathered
+    ImportValidity,   // import written correctly; an imported instance's keywords made dead
     Names,            // no period in the names the deck defines
     Organize,         // the flat list made a tree of keywords and their suboptions
     FakePart,         // a flat deck: rewritten as a generated part, instance and assembly

@@ -32,9 +32,10 @@ constexpr char kCleanDeck[] = "*NODE\n1, 0., 0.\n*STEP\n*STATIC\n*END STEP\n";
 TEST_F(InputFileRoad, StagesAreNamedInRoadOrder) {
     std::vector<std::string> names;
     for (inp_StageInfo const& stage : inp_InputFile::Stages()) names.emplace_back(stage.name);
-    EXPECT_EQ(names, (std::vector<std::string>{"parse", "expand", "model-parameters", "names",
-                                               "organize", "fake-part", "scoped-names", "part-maps",
-                                               "assembly-maps", "out-of-place"}));
+    EXPECT_EQ(names,
+              (std::vector<std::string>{"parse", "expand", "model-parameters", "import-validity",
+                                        "names", "organize", "fake-part", "scoped-names",
+                                        "part-maps", "assembly-maps", "out-of-place"}));
     ASSERT_NE(inp_InputFile::FindStage("expand"), nullptr);
     EXPECT_EQ(inp_InputFile::FindStage("expand")->stage, inp_Stage::Expand);
     EXPECT_EQ(inp_InputFile::FindStage("mesh"), nullptr);
@@ -48,8 +49,8 @@ TEST_F(InputFileRoad, RunsThroughTheLastStageAskedForAndTellsEachStage) {
                                      [&](inp_Stage stage) { seen.push_back(stage); });
     EXPECT_EQ(last, inp_Stage::Organize);
     EXPECT_EQ(seen, (std::vector<inp_Stage>{inp_Stage::Parse, inp_Stage::Expand,
-                                            inp_Stage::ModelParameters, inp_Stage::Names,
-                                            inp_Stage::Organize}));
+                                            inp_Stage::ModelParameters, inp_Stage::ImportValidity,
+                                            inp_Stage::Names, inp_Stage::Organize}));
     ASSERT_EQ(input.Keywords().Length(), 3);  // *NODE, *STEP holding *STATIC, *END STEP
     EXPECT_EQ(input.Keywords()[1].Suboptions().Length(), 1);
 

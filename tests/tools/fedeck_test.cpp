@@ -129,10 +129,12 @@ TEST_F(FedeckProgram, UsageErrorsExitWithTwoAndUsageOnStandardError) {
          "fedeck: option '--password' does not apply to 'model'\n"},
         {{"model", "deck.inp", "--until"}, "fedeck: option '--until' needs a value\n"},
         {{"model", "--until=mesh", "deck.inp"},
-         "fedeck: unknown stage 'mesh'; known stages: parse, expand, model-parameters, names, "
+         "fedeck: unknown stage 'mesh'; known stages: parse, expand, model-parameters, "
+         "import-validity, names, "
          "organize, fake-part, scoped-names, part-maps, assembly-maps, out-of-place\n"},
         {{"check", "--until", "mesh", "deck.inp"},
-         "fedeck: unknown stage 'mesh'; known stages: parse, expand, model-parameters, names, "
+         "fedeck: unknown stage 'mesh'; known stages: parse, expand, model-parameters, "
+         "import-validity, names, "
          "organize, fake-part, scoped-names, part-maps, assembly-maps, out-of-place\n"},
     };
     for (auto const& [arguments, message] : cases) {

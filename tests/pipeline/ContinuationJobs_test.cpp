@@ -1,0 +1,258 @@
+// Jobs that copy or continue a model: what is imported and whether it is
+// written correctly, the id maps of a symmetric model generation, and the
+// sets an import job keeps.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "continuation/inp_ImportKwdData.h"
+#include "continuation/inp_ImportValidityVisitor.h"
+#include "pipeline/inp_InputFile.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
+#include "tests/common/TempDeckDirectory.h"
+#include "tests/mesh/InlineDeck.h"
+
+namespace {
+
+wip_WIP& sink() {
+    return thr_ThreadSingleton<wip_WIP>::Instance();
+}
+
+class ContinuationJobs : public ::testing::Test {
+  protected:
+    void SetUp() override { sink().Clear(); }
+    void TearDown() override { sink().Clear(); }
+
+    void run(std::string const& deck) {
+        input.Run(dir.Write("deck.inp", deck), inp_Stage::OutOfPlace,
+                  inp_InputFile::RunRule::RunThrough);
+        ASSERT_FALSE(sink().HasErrors());
+    }
+    // A keyword added to the top of the tree, as a deck would have it.
+    inp_Keyword& add(char const* name, std::string const& data = std::string()) {
+        inp_Keyword keyword{cow_String(name)};
+        if (!data.empty()) keyword.Data().Append(data.c_str());
+        input.GetKeywords().Append(keyword);
+        return input.GetKeywords().GetLast();
+    }
+
+    TempDeckDirectory dir;
+    inp_InputFile input;
+};
+
+// The numbering of a model without instances: ids 1..count.
+inpM_IdMap numbering(int count) {
+    inpM_IdMap map;
+    for (int id = 1; id <= count; ++id) map.Insert(id, id);
+    return map;
+}
+
+}  // namespace
+
+TEST_F(ContinuationJobs, SymmetricGenerationAddsTheCopiesIdsToTheIdMaps) {
+    input.SetNodeIdMap(numbering(3));
+    input.SetElementIdMap(numbering(2));
+    inpM_IdMap const nodesBefore = input.NodeIdMap();
+    input.AdjustMapsForSymModelGen();  // no *SYMMETRIC MODEL GENERATION: nothing
+    EXPECT_EQ(input.NodeIdMap().NumberIds(), nodesBefore.NumberIds());
+
+    // A reflection: one copy, offset by the largest ids.
+    add("symmetricmodelgeneration").SetParameter("reflect", inp_Item(cow_String("LINE")));
+    input.AdjustMapsForSymModelGen();
+    EXPECT_EQ(input.NodeIdMap().NumberIds(), 6);
+    EXPECT_EQ(input.ElementIdMap().NumberIds(), 4);
+    EXPECT_EQ(input.NodeIdMap().LargestId(), 6);
+}
+
+// A revolution of 2 + 3 segments (a line without its second item counts 1):
+// the elements get four copies, the nodes one more, offset as given.
+TEST_F(ContinuationJobs, RevolvedModelsCountTheirSegmentsAndTakeTheGivenOffsets) {
+    input.SetNodeIdMap(numbering(3));
+    input.SetElementIdMap(numbering(2));
+    inp_Keyword& generation = add("symmetricmodelgeneration", "0., 0., 0., 0., 1., 0.");
+    generation.Data().Append("0., 0., 1.");
+    generation.Data().Append("90., 2");
+    generation.Data().Append("30., 3");
+    generation.SetParameter("revolve", inp_Item(true));
+    generation.SetParameter("elementoffset", inp_Item(100));
+    generation.SetParameter("nodeoffset", inp_Item(1000));
+    input.AdjustMapsForSymModelGen();
+    EXPECT_EQ(input.ElementIdMap().NumberIds(), 2 * 5);
+    EXPECT_EQ(input.NodeIdMap().NumberIds(), 3 * 6);
+    EXPECT_EQ(input.ElementIdMap().LargestId(), 2 + 4 * 100);
+    EXPECT_EQ(input.NodeIdMap().LargestId(), 3 + 5 * 1000);
+}
+
+TEST_F(ContinuationJobs, AnImportJobKeepsTheSetsItsImportKeywordsName) {
+    run(R"(*PART, NAME=P
+*NODE
+1, 0., 0.
+*ELEMENT, TYPE=MASS, ELSET=M
+1, 1
+*MASS, ELSET=M
+1.
+*END PART
+*ASSEMBLY, NAME=A
+*INSTANCE, NAME=I, PART=P
+*END INSTANCE
+*NSET, NSET=KEEP
+I.1
+*NSET, NSET=DROP
+I.1
+*ELSET, ELSET=E1
+I.1
+*ELSET, ELSET=E2
+I.1
+*END ASSEMBLY
+)");
+    // Without names a keyword is warned about and deletes nothing.
+    add("importnset");
+    input.DeleteSetsWhichShouldNotBeImported();
+    ASSERT_EQ(sink().Diagnostics().size(), 1u);
+    EXPECT_NE(std::string(sink().Diagnostics()[0].text.View())
+                  .find("This keyword is removed because no NSET name is provided in the "
+                        "following line."),
+              std::string::npos);
+    EXPECT_TRUE(input.AssemblyNsets().HasSet("DROP"));
+
+    add("importnset", "KEEP");
+    add("import", "E2");
+    input.DeleteSetsWhichShouldNotBeImported();
+    EXPECT_TRUE(input.AssemblyNsets().HasSet("KEEP"));
+    EXPECT_FALSE(input.AssemblyNsets().HasSet("DROP"));
+    // *IMPORT names element sets to keep, but only *IMPORT ELSET deletes.
+    EXPECT_TRUE(input.AssemblyElsets().HasSet("E1"));
+    add("importelset", "E1");
+    input.DeleteSetsWhichShouldNotBeImported();
+    EXPECT_TRUE(input.AssemblyElsets().HasSet("E1") && input.AssemblyElsets().HasSet("E2"));
+    EXPECT_EQ(input.Keywords().ConstGet(input.Keywords().Length() - 1).Keyword(),
+              inp_kw_ImportElset);
+}
+
+// -- what is imported -----------------------------------------------------------------------
+
+TEST(ImportKwdData, TheKeywordInterfaceAndTheImportOptionFillTheRecord) {
+    inp_ImportKwdData fromInstance;
+    cow_List<inp_Keyword> const keywords = InlineDeck(
+        "*INSTANCE, NAME=I, INSTANCE=OLD, REFERENCE CONFIGURATION=NO, STATE=NO, LIBRARY=JOB1, "
+        "STEP=2\n*INSTANCE, NAME=J\n");
+    EXPECT_TRUE(fromInstance.readFromKw(keywords.ConstGet(0)));
+    EXPECT_EQ(fromInstance.ComponentKind(), inp_ImportKwdData::kInstance);
+    EXPECT_EQ(fromInstance.ComponentName(), cow_String("OLD"));
+    EXPECT_FALSE(fromInstance.Update());
+    EXPECT_FALSE(fromInstance.State());
+    EXPECT_EQ(fromInstance.LibraryName(), cow_String("JOB1"));
+    EXPECT_EQ(fromInstance.Step(), 2);
+    inp_ImportKwdData untouched;
+    EXPECT_FALSE(untouched.readFromKw(keywords.ConstGet(1)));
+    EXPECT_FALSE(untouched.isInitializedWithData());
+
+    cow_List<atr_String> errors, warnings;
+    inp_ImportKwdData option;
+    option.readImportOption(InlineDeck("*IMPORT, UPDATE=YES, STEP=-1, INCREMENT=4\n").ConstGet(0),
+                            errors, warnings);
+    ASSERT_EQ(errors.Length(), 1);
+    EXPECT_NE(std::string(errors.ConstGet(0).View())
+                  .find("The value of \"STEP\" parameter is not valid. It will be ignored."),
+              std::string::npos);
+    EXPECT_EQ(option.Step(), -1);
+    EXPECT_TRUE(option.Update());
+    cow_Map<cow_String, inp_Item> const parameters = option.getImportKwdParameterMap();
+    EXPECT_EQ(parameters.ConstGet("update").AsString(), cow_String("YES"));
+    EXPECT_EQ(parameters.ConstGet("increment").AsInt(), 4);
+    EXPECT_FALSE(parameters.IsMember("step"));
+}
+
+// A second record that disagrees is warned about, setting by setting, and
+// the first stands.
+TEST(ImportKwdData, ADisagreeingSecondRecordIsWarnedAboutAndIgnored) {
+    cow_List<inp_Keyword> const keywords = InlineDeck("*IMPORT, STEP=3\n*IMPORT, STEP=4\n");
+    cow_List<atr_String> errors, warnings;
+    inp_ImportKwdData first, second;
+    first.readImportOption(keywords.ConstGet(0), errors, warnings);
+    second.readImportOption(keywords.ConstGet(1), errors, warnings);
+    EXPECT_FALSE(first.checkImportCompatibility(second, keywords.ConstGet(1), errors, warnings));
+    ASSERT_EQ(warnings.Length(), 1);
+    EXPECT_NE(std::string(warnings.ConstGet(0).View())
+                  .find("The \"STEP\" parameter has been already defined. The current value "
+                        "\"4\" will be ignored."),
+              std::string::npos);
+    EXPECT_EQ(first.Step(), 3);
+    EXPECT_TRUE(first.checkImportCompatibility(first, keywords.ConstGet(0), errors, warnings));
+}
+
+// -- whether it is written correctly ----------------------------------------------------------
+
+namespace {
+
+std::vector<std::string> validityOf(cow_List<inp_Keyword>& keywords) {
+    inp_ImportValidityVisitor visitor;
+    visitor.VisitList(keywords);
+    std::vector<std::string> texts = TextsOf(visitor.GetWarningList());
+    for (std::string const& error : TextsOf(visitor.GetErrorList())) texts.push_back(error);
+    return texts;
+}
+
+bool mentions(std::vector<std::string> const& texts, std::string const& piece) {
+    for (std::string const& text : texts)
+        if (text.find(piece) != std::string::npos) return true;
+    return false;
+}
+
+}  // namespace
+
+TEST(ImportValidity, TheKeywordsInsideAnImportedInstanceAreMadeDead) {
+    cow_List<inp_Keyword> keywords = InlineDeck(R"(*ASSEMBLY, NAME=A
+*INSTANCE, NAME=I, INSTANCE=I, LIBRARY=OLD
+*NODE
+1, 0., 0.
+*NSET, NSET=S
+1
+*IMPORT, STEP=1
+*END INSTANCE
+*END ASSEMBLY
+)");
+    std::vector<std::string> const texts = validityOf(keywords);
+    ASSERT_EQ(texts.size(), 1u);
+    EXPECT_NE(texts[0].find("Keyword cannot be used inside the imported component \"I\""),
+              std::string::npos);
+    EXPECT_EQ(keywords.ConstGet(2).Keyword(), inp_kw_UndefinedKeyword);  // the *NODE
+    EXPECT_EQ(keywords.ConstGet(3).Keyword(), inp_kw_Nset);
+    EXPECT_EQ(keywords.ConstGet(5).Keyword(), inp_kw_EndInstance);
+}
+
+TEST(ImportValidity, WronglyWrittenImportsAreReported) {
+    cow_List<inp_Keyword> missing = InlineDeck(
+        "*ASSEMBLY, NAME=A\n*INSTANCE, NAME=I, INSTANCE=I, LIBRARY=OLD\n*END INSTANCE\n");
+    EXPECT_TRUE(mentions(validityOf(missing),
+                         "Instance \"I\" is to be imported but *IMPORT option is misssing."));
+    cow_List<inp_Keyword> part = InlineDeck("*PART, NAME=P, LIBRARY=X\n*END PART\n");
+    EXPECT_TRUE(mentions(validityOf(part), "Import with *ASSEMBLY is not implemented."));
+    cow_List<inp_Keyword> noInstance =
+        InlineDeck("*ASSEMBLY, NAME=A\n*INSTANCE, NAME=I, PART=P, LIBRARY=X\n*END INSTANCE\n");
+    EXPECT_TRUE(mentions(validityOf(noInstance),
+                         "When importing an instance, INSTANCE parameter is required."));
+}
+
+// An *IMPORT needs the part map of an earlier job, and no rezoning.
+TEST_F(ContinuationJobs, AnImportNeedsThePartMapOfAnEarlierJob) {
+    input.Run(dir.Write("deck.inp", "*NODE\n1, 0., 0.\n*IMPORT\nA\n"), inp_Stage::ImportValidity,
+              inp_InputFile::RunRule::RunThrough);
+    std::string text;
+    for (wip_Diagnostic const& diagnostic : sink().Diagnostics()) text += diagnostic.text.CStr();
+    EXPECT_NE(text.find("An import analysis requires the part map from a previous job."),
+              std::string::npos)
+        << text;
+    sink().Clear();
+    input.CheckImportValidity(true);
+    EXPECT_FALSE(sink().HasErrors());
+    add("mapsolution");
+    input.CheckImportValidity(true);
+    ASSERT_TRUE(sink().HasErrors());
+    EXPECT_NE(std::string(sink().Diagnostics()[0].text.View())
+                  .find("*IMPORT and *MAP SOLUTION (rezoning) cannot be used in the same "
+                        "analysis. "),
+              std::string::npos);
+}
