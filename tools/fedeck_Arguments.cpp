@@ -50,8 +50,11 @@ bool asksForVersion(int argc, char const* const* argv) {
 bool takesOption(fedeck_Command command, std::string_view option) {
     switch (command) {
         case fedeck_Command::Check:
-            return option == "--include-dir" || option == "--until" || option == "--json";
+            return option == "--include-dir" || option == "--until" || option == "--json" ||
+                   option == "--max-diagnostics";
         case fedeck_Command::Tree:
+            return option == "--include-dir" || option == "--until" ||
+                   option == "--max-diagnostics";
         case fedeck_Command::Model:
             return option == "--include-dir" || option == "--until";
         case fedeck_Command::Encrypt:
@@ -65,7 +68,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
 
 bool isKnownOption(std::string_view option) {
     return option == "--include-dir" || option == "--until" || option == "--json" ||
-           option == "--password";
+           option == "--password" || option == "--max-diagnostics";
 }
 
 class ArgumentReader {
@@ -122,8 +125,20 @@ class ArgumentReader {
             m_result.includeDir = value;
         else if (option == "--until")
             m_result.until = value;
+        else if (option == "--max-diagnostics")
+            m_result.maxDiagnostics = diagnosticLimit(value);
         else
             m_result.password = value;
+    }
+
+    // A count of 0 or more, digits only.
+    static int diagnosticLimit(std::string const& value) {
+        bool const digits = !value.empty() && value.size() <= 9 &&
+                            value.find_first_not_of("0123456789") == std::string::npos;
+        if (!digits)
+            throw fedeck_UsageError("option '--max-diagnostics' needs a count (0 or more), not '" +
+                                    value + "'");
+        return std::stoi(value);
     }
 
     void checkOperands() const {

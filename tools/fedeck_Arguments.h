@@ -18,6 +18,9 @@ struct fedeck_Arguments {
     std::string includeDir;
     std::string until;  // empty: run every stage
     bool json = false;
+    // check and tree: the diagnostics printed as text, at the most; -1 for
+    // all of them. The JSON form always has all.
+    int maxDiagnostics = -1;
     std::string password;
     // DECK for check, tree and model; IN and OUT for encrypt.
     std::vector<std::string> operands;

@@ -86,7 +86,7 @@ int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
     if (arguments.json) {
         report.WriteJson(out);
     } else {
-        report.WriteDiagnostics(out);
+        report.WriteDiagnostics(out, arguments.maxDiagnostics);
         report.WriteSummary(out);
     }
     return exitStatusOf(report);
@@ -101,7 +101,7 @@ int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& er
     CheckedDeck const checked(
         arguments, lastStageToRun(arguments.until.empty() ? kTreeStage : arguments.until));
     fedeck_Report const report = checked.Report();
-    report.WriteDiagnostics(err);
+    report.WriteDiagnostics(err, arguments.maxDiagnostics);
     inp_DeckWriter(out).Write(checked.Deck().Keywords());
     return exitStatusOf(report);
 }
@@ -163,8 +163,9 @@ std::string fedeck_UsageText() {
     std::string const stages = fedeck_Pipeline::StageNames();
     std::string const lastStage = fedeck_Pipeline::Stages().back().name;
     return "Usage:\n"
-           "  fedeck check [--include-dir DIR] [--until STAGE] [--json] DECK\n"
-           "  fedeck tree  [--include-dir DIR] [--until STAGE] DECK\n"
+           "  fedeck check [--include-dir DIR] [--until STAGE] [--json] [--max-diagnostics N]\n"
+           "               DECK\n"
+           "  fedeck tree  [--include-dir DIR] [--until STAGE] [--max-diagnostics N] DECK\n"
            "  fedeck model [--include-dir DIR] [--until STAGE] DECK\n"
            "  fedeck encrypt --password P IN OUT\n"
            "  fedeck help | --help\n"
@@ -211,6 +212,8 @@ std::string fedeck_UsageText() {
            "                     \"surfaces\"}}; \"stage\" is the last stage that\n"
            "                     ran, \"level\" is null for warnings, \"file\", \"line\" and\n"
            "                     \"keyword\" are null where unknown\n"
+           "  --max-diagnostics N  print at most N diagnostics as text, then one line\n"
+           "                     saying how many more there were (JSON has them all)\n"
            "  --password P       password of the encrypted file (not empty)\n"
            "\n"
            "Exit status:\n"

@@ -1,5 +1,6 @@
 #include "tools/fedeck_Report.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "pipeline/inp_InputFile.h"
@@ -42,12 +43,53 @@ std::string_view withoutTrailingBreaks(std::string_view text) {
     return text;
 }
 
+// The length of the printable UTF-8 character at the start of `text`: a
+// printable ASCII byte or tab, or a well-formed sequence of two to four
+// bytes that is no C1 control; 0 if the first byte is not one.
+size_t printableLength(std::string_view text) {
+    auto const byte = [&](size_t i) { return static_cast<unsigned char>(text[i]); };
+    unsigned char const first = byte(0);
+    if (first == '\t' || (first >= 0x20 && first < 0x7F)) return 1;
+    size_t const length = first >= 0xF0 && first <= 0xF4   ? 4
+                          : first >= 0xE0 && first <= 0xEF ? 3
+                          : first >= 0xC2 && first <= 0xDF ? 2
+                                                           : 0;
+    if (length == 0 || text.size() < length) return 0;
+    for (size_t i = 1; i < length; ++i)
+        if ((byte(i) & 0xC0) != 0x80) return 0;
+    if (first == 0xC2 && byte(1) < 0xA0) return 0;   // C1 controls
+    if (first == 0xE0 && byte(1) < 0xA0) return 0;   // overlong
+    if (first == 0xED && byte(1) >= 0xA0) return 0;  // surrogates
+    if (first == 0xF0 && byte(1) < 0x90) return 0;   // overlong
+    if (first == 0xF4 && byte(1) >= 0x90) return 0;  // beyond U+10FFFF
+    return length;
+}
+
+// `text` with every byte that is not part of a printable character written
+// as \xNN; line breaks are the caller's.
+void writePrintable(aio_ostream& out, std::string_view text) {
+    static constexpr char kHex[] = "0123456789abcdef";
+    while (!text.empty()) {
+        size_t run = 0;
+        for (size_t length; run < text.size() && (length = printableLength(text.substr(run))) > 0;)
+            run += length;
+        out.print(text.substr(0, run));
+        text.remove_prefix(run);
+        if (text.empty()) break;
+        auto const byte = static_cast<unsigned char>(text.front());
+        char const escape[] = {'\\', 'x', kHex[byte >> 4], kHex[byte & 0xF]};
+        out.print(std::string_view(escape, sizeof escape));
+        text.remove_prefix(1);
+    }
+}
+
 void writeIndented(aio_ostream& out, std::string_view text) {
     for (size_t lineBreak; (lineBreak = text.find('\n')) != std::string_view::npos;) {
-        out.print(text.substr(0, lineBreak + 1)).print(kContinuationIndent);
+        writePrintable(out, text.substr(0, lineBreak));
+        out.put('\n').print(kContinuationIndent);
         text.remove_prefix(lineBreak + 1);
     }
-    out.print(text);
+    writePrintable(out, text);
 }
 
 void writeCount(aio_ostream& out, int count, std::string_view noun) {
@@ -123,19 +165,26 @@ fedeck_Report::fedeck_Report(cow_String deckPath, std::string_view stage, bool s
 // editors and CI systems find the line; the deck itself where it is not.
 void fedeck_Report::writeDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) const {
     cow_String const* file = knownFile(diagnostic);
-    out.print(file ? *file : m_deckPath);
+    writePrintable(out, (file ? *file : m_deckPath).View());
     if (int const line = knownLine(diagnostic); line > 0) out.put(':') << line;
     out.print(": ").print(severityLabel(diagnostic)).print(": ");
     writeIndented(out, withoutTrailingBreaks(diagnostic.text.View()));
     out.put('\n');
 }
 
-void fedeck_Report::WriteDiagnostics(aio_ostream& out) const {
-    for (wip_Diagnostic const& diagnostic : m_diagnostics) writeDiagnostic(out, diagnostic);
+void fedeck_Report::WriteDiagnostics(aio_ostream& out, int limit) const {
+    size_t const shown = limit < 0 ? m_diagnostics.size()
+                                   : std::min(m_diagnostics.size(), static_cast<size_t>(limit));
+    for (size_t i = 0; i < shown; ++i) writeDiagnostic(out, m_diagnostics[i]);
+    if (size_t const left = m_diagnostics.size() - shown; left > 0)
+        out.print("fedeck: ") << static_cast<int>(left)
+                              << (left == 1 ? " more diagnostic" : " more diagnostics")
+                              << " not shown\n";
 }
 
 void fedeck_Report::WriteSummary(aio_ostream& out) const {
-    out.print(m_deckPath).print(": ");
+    writePrintable(out, m_deckPath.View());
+    out.print(": ");
     writeCount(out, m_keywordCount, "keyword");
     out.print(", ");
     writeCount(out, m_errorCount, "error");

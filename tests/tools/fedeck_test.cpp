@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -336,4 +338,45 @@ TEST_F(FedeckProgram, EncryptFailuresTellUnreadableInputFromOthers) {
     Outcome const unwritable = run({"encrypt", "--password=pw", "part.inp", "no/dir/out.enc"});
     EXPECT_EQ(unwritable.status, 1);
     EXPECT_EQ(unwritable.err.rfind("fedeck: ", 0), 0u);
+}
+
+// Bytes that are not printable UTF-8 reach the terminal as \xNN; printable
+// UTF-8 (a name in Greek, say) as it is.
+TEST_F(FedeckProgram, UnprintableBytesOfADeckAreEscapedInTextButNotLost) {
+    std::string deck = "*FROB\x01\x1b[2J\xff\n*NODE\n1, 0., 0.\n";
+    deck += "*MATERIAL, NAME=\xce\xb1\xce\xb2\n";
+    write("binary.inp", deck);
+    Outcome const text = run({"check", "binary.inp"});
+    EXPECT_EQ(text.out.find('\x1b'), std::string::npos) << text.out;
+    EXPECT_EQ(text.out.find('\xff'), std::string::npos);
+    EXPECT_NE(text.out.find("frob\\x01\\x1b[2j\\xff"), std::string::npos) << text.out;
+    EXPECT_NE(text.out.find("\xce\xb1\xce\xb2"), std::string::npos);
+    for (char const c : text.out)
+        EXPECT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= 0x20) << text.out;
+}
+
+TEST_F(FedeckProgram, MaxDiagnosticsLimitsTheTextButNotTheJson) {
+    std::string deck;
+    for (int i = 0; i < 5; ++i) deck += "*FROBNICATE\n";
+    write("many.inp", deck);
+    Outcome const limited = run({"check", "--max-diagnostics", "2", "many.inp"});
+    EXPECT_EQ(limited.status, 1);
+    std::string const tail =
+        "fedeck: 3 more diagnostics not shown\n"
+        "many.inp: 0 keywords, 5 errors, 0 warnings (stopped after parse)\n";
+    ASSERT_GE(limited.out.size(), tail.size());
+    EXPECT_EQ(limited.out.substr(limited.out.size() - tail.size()), tail) << limited.out;
+    EXPECT_EQ(std::count(limited.out.begin(), limited.out.end(), '\n'), 4);
+    EXPECT_EQ(run({"check", "--max-diagnostics=0", "many.inp"}).out.find("many.inp:1"),
+              std::string::npos);
+    Outcome const json = run({"check", "--json", "--max-diagnostics", "1", "many.inp"});
+    size_t texts = 0;
+    for (size_t at = 0; (at = json.out.find("\"severity\"", at)) != std::string::npos; ++at)
+        ++texts;
+    EXPECT_EQ(texts, 5u);
+    for (char const* bad : {"-1", "two", ""}) {
+        Outcome const usage = run({"check", std::string("--max-diagnostics=") + bad, "many.inp"});
+        EXPECT_EQ(usage.status, 2) << bad;
+        EXPECT_NE(usage.err.find("option '--max-diagnostics' needs a count"), std::string::npos);
+    }
 }
