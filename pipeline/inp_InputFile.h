@@ -106,6 +106,15 @@ class inp_InputFile {
     // interactive pre-processor, which reads the keywords' data itself.
     void ExtractPartMaps(bool atelierCompatible);
     void ExtractAssemblyMaps(bool atelierCompatible);
+    // The composite stages, for callers that want the whole of it in one
+    // call. Classify: the import check, names, then for a deck in parts
+    // the organizer, the scoped names and the part and assembly maps; for a
+    // flat deck its fake part, the organizer and the assembly maps.
+    // ReorganizeKeywords: the same without the maps (the converter's form),
+    // the import check without the part map rule.
+    void Classify(bool atelierCompatible);
+    void ReorganizeKeywords(bool atelierCompatible);
+
     // A flat deck (no *PART, no *ASSEMBLY) made one of parts: its mesh read
     // under the pseudo part "FAKE", nodes it names but never defines placed
     // at the origin, then the keyword list rewritten as a generated part

@@ -195,3 +195,30 @@ TEST_F(ExtractionStages, TransformValuesThatAreNoNumbersAreToldAndReadAsZero) {
     EXPECT_DOUBLE_EQ(input.AssemblyCoordMap().ConstGet("MOVED").ConstGet(2).x, 1.0);
     EXPECT_TRUE(input.AssemblyElementMap().IsMember("FIXED"));
 }
+
+// The composite stages after expansion: Classify reads a deck, in parts or
+// flat, to its maps; ReorganizeKeywords stops at the tree in parts.
+TEST_F(ExtractionStages, ClassifyReadsEitherKindOfDeckToItsMaps) {
+    inp_InputFile parts;
+    run(parts, kPartsDeck, inp_Stage::Expand);
+    parts.Classify(false);
+    EXPECT_TRUE(parts.AssemblyElementMap().IsMember("MOVED"));
+    EXPECT_FALSE(parts.IsFakePartModel());
+
+    inp_InputFile flat;
+    run(flat, "*NODE\n1, 0., 0., 0.\n2, 1., 0., 0.\n*ELEMENT, TYPE=T3D2\n1, 1, 2\n*IMPORT\nS\n",
+        inp_Stage::Expand);
+    sink().Clear();
+    flat.Classify(false);  // an import without the part map of an earlier job
+    EXPECT_NE(diagnostics().find("An import analysis requires the part map"), std::string::npos);
+    EXPECT_TRUE(flat.IsFakePartModel());
+    EXPECT_TRUE(flat.AssemblyElementMap().IsMember("PART-1-1"));
+
+    inp_InputFile converted;
+    run(converted, "*NODE\n1, 0., 0., 0.\n", inp_Stage::Expand);
+    sink().Clear();
+    converted.ReorganizeKeywords(false);
+    EXPECT_EQ(diagnostics(), "");
+    EXPECT_TRUE(converted.Keywords().ConstGet(0).Is(inp_kw_Part));
+    EXPECT_FALSE(converted.AssemblyCoordMap().IsMember("PART-1-1"));
+}
