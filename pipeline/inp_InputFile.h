@@ -75,7 +75,9 @@ class inp_InputFile {
     // misplaced keywords are reported and left out.
     void Reorganize();
     // Gathers the sizes and facts of the model (ModelParameters) from the
-    // expanded deck.
+    // expanded deck, and registers its distribution tables with this
+    // thread's inp_DistributionTableDB, checking each distribution against
+    // the table it names.
     void setModelParameters();
     inp_ModelParameters const& ModelParameters() const { return m_modelParameters; }
 

@@ -11,6 +11,7 @@
 #include "support/thr_Singleton.h"
 #include "support/typ_DebugFlags.h"
 #include "support/wip_WIP.h"
+#include "tables/inp_DistributionTableVisitor.h"
 
 void inp_PrintStageTime(char const* label, omi_Timer& timer) {
     constexpr int kDebugFlag = 30;
@@ -68,6 +69,9 @@ void inp_InputFile::setModelParameters() {
     timer.Start();
     inp_ModelParameterVisitor parameters(m_modelParameters);
     parameters.VisitListAndReport(m_keywords);
+    // The deck's distribution tables are known from here on, by name.
+    inp_DistributionTableVisitor tables;
+    tables.VisitListAndReport(m_keywords);
     inp_PrintStageTime("Set Model Parameters - Elapsed time: ", timer);
 }
 

@@ -9,6 +9,7 @@
 #include "mesh/inp_NodeGenerationVisitor.h"
 #include "mesh/inp_NodeVisitor.h"
 #include "pipeline/inp_InputFile.h"
+#include "tables/inp_ContactCheck.h"
 #include "tests/mesh/SurfaceVisitorForTests.h"
 
 // The number of nodes, elements and surfaces made, so that a caller can
@@ -40,6 +41,7 @@ inline void RunFakePartStages(inp_InputFile const& expanded) {
     for (int reader = 0; reader < 3; ++reader) {
         inp_InputFile input = expanded;
         input.SetInOdbConverter(reader == 2);
+        input.CheckImportValidity(reader == 1);
         input.FakeEnhancements(reader == 1);
         input.Reorganize();
         input.ExtractAssemblyMaps(reader == 1);
@@ -52,10 +54,12 @@ inline void RunFakePartStages(inp_InputFile const& expanded) {
 // period removal for flat decks only, the scoped names and the map
 // extraction for decks in parts only).
 inline void RunExtractionStages(inp_InputFile& input) {
+    input.setModelParameters();
     input.ProhibitPeriodInNames(input.Keywords());
     input.RemovePeriods(false);
     input.ModifyScopedNames();
     input.ExtractPartMaps(false);
     input.ExtractAssemblyMaps(false);
     input.CheckOutOfPlace();
+    inp_ContactCheck(input.AssemblySurfaces(), input.Keywords()).PerformCheck(true);
 }
