@@ -8,8 +8,8 @@
 // the list that Rearrange walks, and a map open to any Insert or Remove could
 // hold an entry whose key is not its surface's name.
 
-#include "deck/inp_Keyword.h"
 #include "assembly/inp_RigidKeywordPositions.h"
+#include "deck/inp_Keyword.h"
 #include "support/cow_List.h"
 #include "support/cow_Map.h"
 #include "support/cow_String.h"
