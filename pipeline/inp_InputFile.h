@@ -132,6 +132,12 @@ class inp_InputFile {
     // inside an imported instance dead. Runs on the flat list.
     void CheckImportValidity(bool continuation);
 
+    // What a restart adds to the model it continues (IsPlainRestart,
+    // HasSymmetricModelGeneration, HasMapSolution, IsImportJob), from the
+    // top keywords; more than step data is refused for a restart of a model
+    // in parts.
+    void ClassifyRestartJob();
+
     // Jobs that copy the model by offsetting its ids (a symmetric model
     // generation, reflected or revolved) get the copies' ids in the id maps:
     // the offsets are the largest ids unless the first *SYMMETRIC MODEL

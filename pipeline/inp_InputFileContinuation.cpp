@@ -50,6 +50,34 @@ void inp_InputFile::CheckImportValidity(bool continuation) {
     validity.VisitListAndReport(m_keywords);
 }
 
+// A plain restart adds step data only; new nodes or elements, an import, a
+// symmetric model generation or a rezoning make it more, which a model in
+// parts cannot take.
+void inp_InputFile::ClassifyRestartJob() {
+    m_plainRestart = true;
+    m_symmetricModelGeneration = false;
+    m_mapSolution = false;
+    m_importJob = false;
+    for (inp_Keyword const& keyword : m_keywords) {
+        if (keyword.Is(inp_kw_SymmetricModelGeneration)) {
+            m_symmetricModelGeneration = true;
+        } else if (keyword.Is(inp_kw_MapSolution)) {
+            m_mapSolution = true;
+        } else if (keyword.Is(inp_kw_Import)) {
+            m_importJob = true;
+        } else if (!keyword.Is(inp_kw_Node) && !keyword.Is(inp_kw_Element)) {
+            continue;
+        }
+        m_plainRestart = false;
+    }
+    if (m_restartJob && !m_plainRestart && m_partsAndAssembly)
+        thr_ThreadSingleton<wip_WIP>::Instance().Error(
+            "Features such as new nodes/elements, IMPORT, SYMMETRIC MODEL GENERATION, MAP SOLUTION "
+            "are detected in a continuation analysis where the original model is defined in terms "
+            "of an assembly of part instances. This is not allowed. ",
+            wip_LEVEL1);
+}
+
 void inp_InputFile::importValidityStage() {
     CheckImportValidity(m_options.atelierCompatible);
 }

@@ -256,3 +256,21 @@ TEST_F(ContinuationJobs, AnImportNeedsThePartMapOfAnEarlierJob) {
                         "analysis. "),
               std::string::npos);
 }
+
+TEST_F(ContinuationJobs, ARestartIsPlainUnlessItAddsMoreThanStepData) {
+    run("*STEP\n*STATIC\n*END STEP\n");
+    input.ClassifyRestartJob();
+    EXPECT_TRUE(input.IsPlainRestart());
+    add("node", "1, 0., 0.");
+    input.ClassifyRestartJob();
+    EXPECT_FALSE(input.IsPlainRestart());
+    EXPECT_FALSE(input.IsImportJob() || input.HasMapSolution() ||
+                 input.HasSymmetricModelGeneration());
+    add("import");
+    add("mapsolution");
+    add("symmetricmodelgeneration");
+    input.ClassifyRestartJob();
+    EXPECT_TRUE(input.IsImportJob() && input.HasMapSolution() &&
+                input.HasSymmetricModelGeneration());
+    EXPECT_FALSE(sink().HasErrors());  // not a restart job: nothing to refuse
+}
