@@ -28,13 +28,11 @@ void warnAlreadyDefined(inp_Keyword const& keyword, char const* format, cow_Stri
 
 bool inp_ImportKwdData::readFromKw(inp_Keyword const& keyword) {
     if (!keyword.HasParameter("referenceconfiguration")) return false;
-    if (keyword.Is(inp_kw_Part)) {
+    bool const instance = keyword.Is(inp_kw_Instance);
+    if (keyword.Is(inp_kw_Part) || (instance && keyword.HasParameter("part"))) {
         m_componentKind = kPart;
         m_componentName = parameterText(keyword, "part", "");
-    } else if (keyword.Is(inp_kw_Instance) && keyword.HasParameter("part")) {
-        m_componentKind = kPart;
-        m_componentName = parameterText(keyword, "part", "");
-    } else if (keyword.Is(inp_kw_Instance) && keyword.HasParameter("instance")) {
+    } else if (instance && keyword.HasParameter("instance")) {
         m_componentKind = kInstance;
         m_componentName = parameterText(keyword, "instance", "");
     } else if (keyword.Is(inp_kw_Assembly)) {
