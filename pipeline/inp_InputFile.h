@@ -253,6 +253,9 @@ class inp_InputFile {
     void importValidityStage();
     void scopedNamesStage();
     void organizeStage();
+    // The import check (`continuation` as CheckImportValidity takes it),
+    // the names, then the tree in parts (a flat deck made a part first).
+    void bringToParts(bool continuation, bool atelierCompatible);
     void fakePartStage();
     void extractPartMapsStage();
     void extractAssemblyMapsStage();

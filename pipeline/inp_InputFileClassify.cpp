@@ -6,28 +6,23 @@
 #include "pipeline/inp_InputFile.h"
 #include "pipeline/inp_StageTime.h"
 
-// A deck in parts is organized, its scoped names shortened and its maps
-// read; a flat deck is made a part first, then organized and its assembly
-// read.
+// Both bring the deck to a tree in parts: a deck in parts is organized and
+// its scoped names shortened; a flat deck is made a part first, then
+// organized. Classify then reads the maps.
 void inp_InputFile::Classify(bool atelierCompatible) {
-    CheckImportValidity(atelierCompatible);
-    ProhibitPeriodInNames(m_keywords);
-    if (m_partsAndAssembly) {
-        Reorganize();
-        ModifyScopedNames();
-        ExtractPartMaps(atelierCompatible);
-        ExtractAssemblyMaps(atelierCompatible);
-        return;
-    }
-    FakeEnhancements(atelierCompatible);
-    Reorganize();
+    bringToParts(atelierCompatible, atelierCompatible);
+    if (m_partsAndAssembly) ExtractPartMaps(atelierCompatible);
     ExtractAssemblyMaps(atelierCompatible);
-    m_fakePartModel = true;
+    if (!m_partsAndAssembly) m_fakePartModel = true;
 }
 
 // The converter's form: the keyword tree in parts, without the maps.
 void inp_InputFile::ReorganizeKeywords(bool atelierCompatible) {
-    CheckImportValidity(false);
+    bringToParts(false, atelierCompatible);
+}
+
+void inp_InputFile::bringToParts(bool continuation, bool atelierCompatible) {
+    CheckImportValidity(continuation);
     ProhibitPeriodInNames(m_keywords);
     if (m_partsAndAssembly) {
         Reorganize();
