@@ -19,6 +19,7 @@
 // (inp_FakeRigidParts.cpp) and the variants each have a file of their own.
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "deck/inp_Keyword.h"
@@ -170,6 +171,7 @@ class inp_FakePartVisitor : public inp_Visitor {
     void RemoveRedundantRefNodes();
     void RemoveDuplicateRefNodes();
     cow_List<cow_String> PartsSpannedByRefNode(int id) const;
+    std::unordered_map<int, cow_List<cow_String>> const& referenceNodeOwners() const;
     struct SurfaceNames {
         bool unnamed = false;
         cow_String part;
@@ -206,6 +208,9 @@ class inp_FakePartVisitor : public inp_Visitor {
     inpM_InstanceMap<cow_String> m_instanceParts;
     cow_Map<cow_String, gsl_Matrix> m_instanceTransforms;
     cow_Map<cow_String, cow_List<int>> m_referenceNodes;
+    // The index of referenceNodeOwners, and the map it was made from.
+    mutable std::unordered_map<int, cow_List<cow_String>> m_referenceNodeOwners;
+    mutable cow_Map<cow_String, cow_List<int>> m_indexedReferenceNodes;
     cow_List<int> m_flaggedReferenceNodes;
     std::vector<std::pair<int, inp_Element>> m_substructureElements;
     cow_Map<cow_String, cow_String> m_eulerianParts;  // element set to part

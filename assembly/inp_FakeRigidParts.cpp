@@ -6,6 +6,7 @@
 // position.
 
 #include <string>
+#include <unordered_map>
 
 #include "assembly/inp_FakePartVisitor.h"
 #include "assembly/inp_PartMeshVisitors.h"
@@ -288,30 +289,48 @@ bool inp_FakePartVisitor::AddRefNode(gsl_Matrix const& transform, cow_String con
     return AddRefNode(transform, part, ids.ConstGet(0), flag);
 }
 
-cow_List<cow_String> inp_FakePartVisitor::PartsSpannedByRefNode(int id) const {
-    cow_List<cow_String> parts;
-    m_referenceNodes.ForEachSorted([&](cow_String const& part, cow_List<int> const& ids) {
-        if (ids.IsMember(id)) parts.Append(part);
+// Node to the parts that own it, in part order. Asked for every node of
+// every element, so it is an index, made anew only when the map of reference
+// nodes has changed since: any write to that map copies its root, so a
+// copy kept from the last indexing tells whether it is still the same.
+std::unordered_map<int, cow_List<cow_String>> const& inp_FakePartVisitor::referenceNodeOwners()
+    const {
+    bool const unchanged = (m_referenceNodes.IsEmpty() && m_indexedReferenceNodes.IsEmpty()) ||
+                           m_referenceNodes.SharesRootWith(m_indexedReferenceNodes);
+    if (unchanged) return m_referenceNodeOwners;
+    m_referenceNodeOwners.clear();
+    m_referenceNodes.ForEachSorted([this](cow_String const& part, cow_List<int> const& ids) {
+        for (int const id : ids) m_referenceNodeOwners[id].AppendUnlessMember(part);
     });
-    return parts;
+    m_indexedReferenceNodes = m_referenceNodes;
+    return m_referenceNodeOwners;
+}
+
+cow_List<cow_String> inp_FakePartVisitor::PartsSpannedByRefNode(int id) const {
+    auto const& owners = referenceNodeOwners();
+    auto const found = owners.find(id);
+    return found == owners.end() ? cow_List<cow_String>() : found->second;
 }
 
 cow_List<cow_String> inp_FakePartVisitor::PartsSpannedByNodeIds(int const* nodes, int count) const {
     cow_List<cow_String> parts;
     cow_String const part1(kPartName);
+    auto const& owners = referenceNodeOwners();
     for (int i = 0; i < count; ++i) {
-        cow_List<cow_String> const owners =
-            m_referenceNodes.IsEmpty() ? cow_List<cow_String>() : PartsSpannedByRefNode(nodes[i]);
-        if (owners.IsEmpty()) parts.AppendUnlessMember(part1);
-        for (cow_String const& owner : owners) parts.AppendUnlessMember(owner);
+        auto const found = owners.find(nodes[i]);
+        if (found == owners.end()) {
+            parts.AppendUnlessMember(part1);
+            continue;
+        }
+        for (cow_String const& owner : found->second) parts.AppendUnlessMember(owner);
     }
     return parts;
 }
 
 bool inp_FakePartVisitor::IsReferenceNode(int const* nodes, int count) const {
-    if (m_referenceNodes.IsEmpty()) return false;
+    auto const& owners = referenceNodeOwners();
     for (int i = 0; i < count; ++i)
-        if (!PartsSpannedByRefNode(nodes[i]).IsEmpty()) return true;
+        if (owners.count(nodes[i]) != 0) return true;
     return false;
 }
 

@@ -13,12 +13,9 @@
 #include "assembly/inp_UndefinedNodeVisitor.h"
 #include "deck/inp_ElementDataArrayImpl.h"
 #include "deck/inp_NodeDataArrayImpl.h"
-#include "mesh/inp_ElementInstanceMap.h"
 #include "mesh/inp_NodeGenerationVisitor.h"
 #include "pipeline/inp_InputFile.h"
 #include "pipeline/inp_StageTime.h"
-#include "support/thr_Singleton.h"
-#include "support/wip_WIP.h"
 
 namespace {
 
