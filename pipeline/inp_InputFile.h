@@ -20,6 +20,7 @@
 #include "support/gsl_Matrix.h"
 #include "support/inpM_IdMap.h"
 #include "support/inpM_InstanceMap.h"
+#include "support/inpM_PartMap.h"
 #include "support/inpM_SetMap.h"
 #include "support/inpM_SurfaceMap.h"
 
@@ -131,6 +132,20 @@ class inp_InputFile {
     // what inp_ImportValidityVisitor checks, which also makes the keywords
     // inside an imported instance dead. Runs on the flat list.
     void CheckImportValidity(bool continuation);
+
+    // A continuation job, after ExpandKeywords: takes the finished model of
+    // the earlier job (`partMap`, from that job's MakePartMap) as its own
+    // sets, surfaces, instance names and numbering, classifies the job
+    // (ClassifyRestartJob), and, unless it is a plain restart (step data
+    // only, left flat), gives the deck's additions their fake part and the
+    // assembly maps. Of an import job only the sets its *IMPORT keywords
+    // name are kept; a symmetric model generation drops the earlier job's
+    // internal sets from `partMap` itself.
+    void InheritPartMap(inpM_PartMap& partMap, bool atelierCompatible);
+    // The finished model of this job, for a job that continues it: the
+    // assembly's sets and surfaces, the id maps, the instances' parts and
+    // what the model is made of. Shares the maps; nothing is copied.
+    inpM_PartMap MakePartMap() const;
 
     // What a restart adds to the model it continues (IsPlainRestart,
     // HasSymmetricModelGeneration, HasMapSolution, IsImportJob), from the
@@ -257,6 +272,8 @@ class inp_InputFile {
     // the names, then the tree in parts (a flat deck made a part first).
     void bringToParts(bool continuation, bool atelierCompatible);
     void fakePartStage();
+    // InheritPartMap's taking of the earlier job's maps.
+    void inheritModel(inpM_PartMap const& partMap);
     void extractPartMapsStage();
     void extractAssemblyMapsStage();
 

@@ -78,6 +78,55 @@ void inp_InputFile::ClassifyRestartJob() {
             wip_LEVEL1);
 }
 
+// The flag that ClassifyRestartJob reads to refuse more than step data for
+// a model in parts is the one the restart deck itself set in expansion: the
+// part map's own flag is taken only afterwards (step 6 below), so a restart
+// deck without *PART of its own is classified as for a flat model.
+void inp_InputFile::InheritPartMap(inpM_PartMap& partMap, bool atelierCompatible) {
+    m_restartJob = true;
+    ClassifyRestartJob();
+    if (m_symmetricModelGeneration) partMap.RemoveRedundantInternalSets();
+    if (m_importJob) m_partModelAllowed = false;
+    if (!m_mapSolution) inheritModel(partMap);
+    if (m_importJob) DeleteSetsWhichShouldNotBeImported();
+    m_fakePartModel = partMap.IsFakePartModel();
+    m_partsAndAssembly = partMap.FeatureEnhanced();
+    CheckImportValidity(false);
+    if (m_plainRestart) return;
+    FakeEnhancements(atelierCompatible);
+    Reorganize();
+    ExtractAssemblyMaps(atelierCompatible);
+}
+
+// The sets and surfaces of a model in parts go into the numbering of the
+// earlier job's id maps; ids those maps lack stay as they are.
+void inp_InputFile::inheritModel(inpM_PartMap const& partMap) {
+    m_assemblyNsets = partMap.ConstGetNsets();
+    m_assemblyElsets = partMap.ConstGetElsets();
+    m_assemblySurfaces = partMap.ConstGetSurfaceMap();
+    m_instancePartNames = partMap.ConstGetInstancePartNames();
+    m_nodeIdMap = partMap.ConstGetNodeIdMap();
+    m_elementIdMap = partMap.ConstGetElemIdMap();
+    if (!partMap.FeatureEnhanced()) return;
+    m_assemblySurfaces.Renumber(m_nodeIdMap, m_elementIdMap, true);
+    m_assemblyElsets.Renumber(m_elementIdMap, true);
+    m_assemblyNsets.Renumber(m_nodeIdMap, true);
+}
+
+inpM_PartMap inp_InputFile::MakePartMap() const {
+    inpM_PartMap partMap;
+    partMap.GetNsets() = m_assemblyNsets;
+    partMap.GetElsets() = m_assemblyElsets;
+    partMap.GetSurfaceMap() = m_assemblySurfaces;
+    partMap.GetNodeIdMap() = m_nodeIdMap;
+    partMap.GetElemIdMap() = m_elementIdMap;
+    partMap.GetInstancePartNames() = m_instancePartNames;
+    partMap.SetRenumbered(!m_nodeIdMap.IsEmpty() || !m_elementIdMap.IsEmpty());
+    partMap.SetFeatureEnhanced(m_partsAndAssembly);
+    partMap.SetFakePartModel(m_fakePartModel);
+    return partMap;
+}
+
 void inp_InputFile::importValidityStage() {
     CheckImportValidity(m_options.atelierCompatible);
 }

@@ -71,6 +71,22 @@ inpM_IdMap numberingOf(inpM_InstanceMap<inp_MapInt2Element> const& elements) {
     return result;
 }
 
+// A continuation job keeps the numbering of the job it goes on from: the
+// ids that job numbered keep their numbers, and those the new deck adds
+// are numbered after the largest of the whole map, in the order of
+// `fresh`.
+inpM_IdMap continuedNumbering(inpM_IdMap const& inherited, inpM_IdMap const& fresh) {
+    inpM_IdMap result = inherited;
+    int next = inherited.LargestId() + 1;
+    for (cow_String const& part : fresh.Instances()) {
+        inpM_IdMap nested = inherited.IsMember(part) ? inherited.ConstGet(part) : inpM_IdMap();
+        for (cow_IntTableIntIT it(fresh.ConstGet(part).ConstGetOldToNew()); it.NotDone(); it.Next())
+            if (!nested.IsMember(it.CurrentKey())) nested.Insert(it.CurrentKey(), next++);
+        result.Insert(part, nested);
+    }
+    return result;
+}
+
 }  // namespace
 
 void inp_InputFile::FakeEnhancements(bool atelierCompatible) {
@@ -125,8 +141,13 @@ void inp_InputFile::FakeEnhancements(bool atelierCompatible) {
     m_partSurfaces = fakePart->ConstGetPartSurfaces();
     fakePart.reset();
 
-    m_nodeIdMap = numberingOf(m_partCoordMap);
-    m_elementIdMap = numberingOf(m_partElementMap);
+    if (m_restartJob) {
+        m_nodeIdMap = continuedNumbering(m_nodeIdMap, numberingOf(m_partCoordMap));
+        m_elementIdMap = continuedNumbering(m_elementIdMap, numberingOf(m_partElementMap));
+    } else {
+        m_nodeIdMap = numberingOf(m_partCoordMap);
+        m_elementIdMap = numberingOf(m_partElementMap);
+    }
 
     std::unique_ptr<inp_FakePartSetAssignVisitor> assign;
     if (atelierCompatible) {

@@ -51,7 +51,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
     switch (command) {
         case fedeck_Command::Check:
             return option == "--include-dir" || option == "--until" || option == "--json" ||
-                   option == "--max-diagnostics";
+                   option == "--max-diagnostics" || option == "--restart-from";
         case fedeck_Command::Tree:
             return option == "--include-dir" || option == "--until" ||
                    option == "--max-diagnostics";
@@ -68,7 +68,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
 
 bool isKnownOption(std::string_view option) {
     return option == "--include-dir" || option == "--until" || option == "--json" ||
-           option == "--password" || option == "--max-diagnostics";
+           option == "--password" || option == "--max-diagnostics" || option == "--restart-from";
 }
 
 class ArgumentReader {
@@ -125,10 +125,18 @@ class ArgumentReader {
             m_result.includeDir = value;
         else if (option == "--until")
             m_result.until = value;
+        else if (option == "--restart-from")
+            m_result.restartFrom = nonEmpty(option, value);
         else if (option == "--max-diagnostics")
             m_result.maxDiagnostics = diagnosticLimit(value);
         else
             m_result.password = value;
+    }
+
+    static std::string const& nonEmpty(std::string_view option, std::string const& value) {
+        if (value.empty())
+            throw fedeck_UsageError("option '" + std::string(option) + "' needs a value");
+        return value;
     }
 
     // A count of 0 or more, digits only.
@@ -145,6 +153,9 @@ class ArgumentReader {
         if (m_result.operands.size() != m_form.operandCount)
             throw fedeck_UsageError("'" + std::string(m_form.name) + "' needs " +
                                     std::string(m_form.operandNames));
+        if (!m_result.restartFrom.empty() && !m_result.until.empty())
+            throw fedeck_UsageError(
+                "'--until' does not apply to a continuation job ('--restart-from')");
         if (m_form.command == fedeck_Command::Encrypt && m_result.password.empty())
             throw fedeck_UsageError("'encrypt' needs a non-empty --password");
     }

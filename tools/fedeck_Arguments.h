@@ -21,6 +21,9 @@ struct fedeck_Arguments {
     // check and tree: the diagnostics printed as text, at the most; -1 for
     // all of them. The JSON form always has all.
     int maxDiagnostics = -1;
+    // check: the deck of the earlier job that DECK continues; empty for a
+    // new job.
+    std::string restartFrom;
     std::string password;
     // DECK for check, tree and model; IN and OUT for encrypt.
     std::vector<std::string> operands;

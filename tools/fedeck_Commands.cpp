@@ -17,11 +17,18 @@
 #include "tools/fedeck_Model.h"
 #include "tools/fedeck_Pipeline.h"
 #include "tools/fedeck_Report.h"
+#include "tools/fedeck_Restart.h"
 
 namespace {
 
-// The stage after which `tree` writes the keywords unless told otherwise.
-constexpr char const* kTreeStage = "organize";
+// The road of a converter, which `tree` runs unless told where to stop: the
+// stages up to this one, then the keywords brought to parts without reading
+// the maps (the name the report gives).
+constexpr char const* kConverterBase = "model-parameters";
+constexpr char const* kConverterStage = "reorganize-keywords";
+// What a continuation job's report names as its last stage: after expansion
+// it takes the earlier job's model and goes on from there.
+constexpr char const* kContinuationStage = "inherit-part-map";
 
 int lastStageToRun(std::string const& until) {
     if (until.empty()) return static_cast<int>(fedeck_Pipeline::Stages().size()) - 1;
@@ -39,26 +46,95 @@ std::string includeDirectoryFor(fedeck_Arguments const& arguments) {
     return std::filesystem::path(arguments.operands.front()).parent_path().string();
 }
 
+bool holdsEncryptedData(cow_List<inp_Keyword> const& keywords) {
+    for (inp_Keyword const& keyword : keywords)
+        if ((keyword.IsEncrypted() && keyword.Data().Rows() > 0) ||
+            holdsEncryptedData(keyword.Suboptions()))
+            return true;
+    return false;
+}
+
+// A deck made a part is written anew from its maps, which do not tell the
+// data of an encrypted file from the rest: once any of it was encrypted, no
+// data line of the new tree is shown.
+void withholdAllData(cow_List<inp_Keyword>& keywords) {
+    for (int i = 0; i < keywords.Length(); ++i) {
+        inp_Keyword& keyword = keywords.Get(i);
+        keyword.SetEncrypted(true);
+        withholdAllData(keyword.GetSuboptions());
+    }
+}
+
+// The earlier job of a continuation: the deck given by --restart-from, run
+// as a new job over the whole road, its include files beside it.
+fedeck_Arguments earlierJobOf(fedeck_Arguments const& arguments) {
+    fedeck_Arguments earlier = arguments;
+    earlier.operands = {arguments.restartFrom};
+    earlier.includeDir.clear();
+    earlier.restartFrom.clear();
+    return earlier;
+}
+
 // A deck run through the pipeline, with what the sink collected on the way.
 class CheckedDeck {
   public:
     CheckedDeck(fedeck_Arguments const& arguments, int lastStage)
         : m_path(arguments.operands.front().c_str()) {
-        std::string const includeDirectory = includeDirectoryFor(arguments);
-        if (!includeDirectory.empty()) m_deck.SetIncludePath(cow_String(includeDirectory.c_str()));
-        m_stageRun = fedeck_Pipeline::Run(m_deck, m_path, lastStage);
-        m_stoppedEarly = m_stageRun != lastStage;
+        setIncludePath(arguments);
+        runTo(lastStage);
         if (m_stageRun == static_cast<int>(fedeck_Pipeline::Stages().size()) - 1)
             runOfferedChecks();
     }
 
+    // A continuation job: the deck is parsed and expanded, then goes on from
+    // the finished model of the `earlier` job, and its new sets and surfaces
+    // are read against that model's names.
+    CheckedDeck(fedeck_Arguments const& arguments, inp_InputFile const& earlier)
+        : m_path(arguments.operands.front().c_str()) {
+        setIncludePath(arguments);
+        runTo(fedeck_Pipeline::Find("expand"));
+        if (m_stoppedEarly) return;
+        inpM_PartMap partMap = earlier.MakePartMap();
+        m_deck.InheritPartMap(partMap, false);
+        fedeck_ReadRestartSetsAndSurfaces(m_deck, earlier);
+        m_stageName = kContinuationStage;
+        runOfferedChecks();
+    }
+
+    // The converter's road: the deck read and brought to parts, a flat deck
+    // made its generated part with every node and element written into it;
+    // the maps are not read.
+    struct ConverterRoad {};
+    CheckedDeck(fedeck_Arguments const& arguments, ConverterRoad)
+        : m_path(arguments.operands.front().c_str()) {
+        setIncludePath(arguments);
+        runTo(fedeck_Pipeline::Find(kConverterBase));
+        if (m_stoppedEarly) return;
+        bool const encrypted = holdsEncryptedData(m_deck.Keywords());
+        m_deck.SetInOdbConverter(true);
+        m_deck.ReorganizeKeywords(false);
+        m_stageName = kConverterStage;
+        if (encrypted) withholdAllData(m_deck.GetKeywords());
+    }
+
     fedeck_Report Report() const {
-        return fedeck_Report(m_path, fedeck_Pipeline::Stages()[m_stageRun].name, m_stoppedEarly,
-                             m_deck, thr_ThreadSingleton<wip_WIP>::Instance().Diagnostics());
+        return fedeck_Report(m_path, m_stageName, m_stoppedEarly, m_deck,
+                             thr_ThreadSingleton<wip_WIP>::Instance().Diagnostics());
     }
     inp_InputFile const& Deck() const { return m_deck; }
 
   private:
+    void setIncludePath(fedeck_Arguments const& arguments) {
+        std::string const includeDirectory = includeDirectoryFor(arguments);
+        if (!includeDirectory.empty()) m_deck.SetIncludePath(cow_String(includeDirectory.c_str()));
+    }
+
+    void runTo(int lastStage) {
+        m_stageRun = fedeck_Pipeline::Run(m_deck, m_path, lastStage);
+        m_stageName = fedeck_Pipeline::Stages()[m_stageRun].name;
+        m_stoppedEarly = m_stageRun != lastStage;
+    }
+
     // A checker runs every check it has: those the library offers its
     // callers but no stage of the road runs come after the whole road.
     void runOfferedChecks() {
@@ -73,6 +149,7 @@ class CheckedDeck {
     cow_String m_path;  // as typed: messages name the deck as the user knows it
     inp_InputFile m_deck;
     int m_stageRun = 0;
+    std::string_view m_stageName;
     bool m_stoppedEarly = false;
 };
 
@@ -80,9 +157,8 @@ int exitStatusOf(fedeck_Report const& report) {
     return report.HasErrors() ? fedeck_EXIT_ERRORS : fedeck_EXIT_CLEAN;
 }
 
-int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
-    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
-    fedeck_Report const report = checked.Report();
+int writeCheckReport(fedeck_Report const& report, fedeck_Arguments const& arguments,
+                     aio_ostream& out) {
     if (arguments.json) {
         report.WriteJson(out);
     } else {
@@ -92,18 +168,38 @@ int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
     return exitStatusOf(report);
 }
 
+// The earlier deck's report is shown only when it has errors: then there is
+// no model to go on from, and the later deck is not run.
+int runContinuationCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
+    fedeck_Arguments const earlierArguments = earlierJobOf(arguments);
+    CheckedDeck const earlier(earlierArguments, lastStageToRun(std::string()));
+    fedeck_Report const earlierReport = earlier.Report();
+    if (earlierReport.HasErrors()) return writeCheckReport(earlierReport, earlierArguments, out);
+    CheckedDeck const later(arguments, earlier.Deck());
+    return writeCheckReport(later.Report(), arguments, out);
+}
+
+int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
+    if (!arguments.restartFrom.empty()) return runContinuationCheck(arguments, out);
+    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
+    return writeCheckReport(checked.Report(), arguments, out);
+}
+
 // The keyword list goes out even when the deck has errors: what could be read
-// is often what the user wants to see. By default the road stops once the
-// tree is made: the extraction stages after it release the data lines of the
-// mesh keywords of parts into the maps, and a tree written after them would
-// lack the mesh.
+// is often what the user wants to see. By default it is the converter's
+// tree, a flat deck shown as its generated part, instance and assembly.
+// With --until it is the road's tree at that stage: the extraction stages
+// release the data lines of the mesh keywords of parts into the maps, so a
+// tree written after them lacks the mesh.
 int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
-    CheckedDeck const checked(
-        arguments, lastStageToRun(arguments.until.empty() ? kTreeStage : arguments.until));
-    fedeck_Report const report = checked.Report();
-    report.WriteDiagnostics(err, arguments.maxDiagnostics);
-    inp_DeckWriter(out).Write(checked.Deck().Keywords());
-    return exitStatusOf(report);
+    auto const write = [&](CheckedDeck const& checked) {
+        fedeck_Report const report = checked.Report();
+        report.WriteDiagnostics(err, arguments.maxDiagnostics);
+        inp_DeckWriter(out).Write(checked.Deck().Keywords());
+        return exitStatusOf(report);
+    };
+    if (arguments.until.empty()) return write(CheckedDeck(arguments, CheckedDeck::ConverterRoad{}));
+    return write(CheckedDeck(arguments, lastStageToRun(arguments.until)));
 }
 
 // The maps go out even when the deck has errors, as far as the stages that
@@ -165,6 +261,8 @@ std::string fedeck_UsageText() {
     return "Usage:\n"
            "  fedeck check [--include-dir DIR] [--until STAGE] [--json] [--max-diagnostics N]\n"
            "               DECK\n"
+           "  fedeck check --restart-from EARLIER [--include-dir DIR] [--json]\n"
+           "               [--max-diagnostics N] DECK\n"
            "  fedeck tree  [--include-dir DIR] [--until STAGE] [--max-diagnostics N] DECK\n"
            "  fedeck model [--include-dir DIR] [--until STAGE] DECK\n"
            "  fedeck encrypt --password P IN OUT\n"
@@ -183,11 +281,14 @@ std::string fedeck_UsageText() {
            "           Further lines of a message are indented by four blanks. A stage\n"
            "           that ends with errors ends the run; the summary then adds\n"
            "           \"(stopped after STAGE)\".\n"
-           "  tree     Runs the stages on DECK up to STAGE (default: organize) and\n"
+           "  tree     Brings DECK to parts as a converter does (a flat deck becomes\n"
+           "           its generated part, instance and assembly, with every node and\n"
+           "           element) or, with --until, runs the stages up to STAGE; then\n"
            "           writes its keywords back as deck text to standard output, text\n"
            "           that reads back to the same keywords; diagnostics go to standard\n"
-           "           error. Data lines read from an encrypted file are not shown, nor\n"
-           "           those of the mesh of parts after part-maps (the maps hold them).\n"
+           "           error. Data lines read from an encrypted file are not shown (a\n"
+           "           deck made a part shows none once any was), nor those of the mesh\n"
+           "           of parts after part-maps (the maps hold them).\n"
            "  model    Runs the stages on DECK up to STAGE and prints one JSON object:\n"
            "           the members of check --json, then \"partsAndAssembly\",\n"
            "           \"fakePartModel\", \"parts\" and \"assembly\", the model maps as\n"
@@ -214,6 +315,12 @@ std::string fedeck_UsageText() {
            "                     \"keyword\" are null where unknown\n"
            "  --max-diagnostics N  print at most N diagnostics as text, then one line\n"
            "                     saying how many more there were (JSON has them all)\n"
+           "  --restart-from EARLIER  check DECK as a job that continues the deck\n"
+           "                     EARLIER: EARLIER is checked first, as a new job (its\n"
+           "                     report is shown only when it has errors, and DECK is\n"
+           "                     then not checked); DECK is parsed and expanded, takes\n"
+           "                     EARLIER's model, and its new sets and surfaces are\n"
+           "                     read against EARLIER's names (stage \"inherit-part-map\")\n"
            "  --password P       password of the encrypted file (not empty)\n"
            "\n"
            "Exit status:\n"

@@ -8,6 +8,8 @@
 
 #include "continuation/inp_ImportKwdData.h"
 #include "continuation/inp_ImportValidityVisitor.h"
+#include "continuation/inp_RestartSetVisitor.h"
+#include "continuation/inp_RestartSurfaceVisitor.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
@@ -273,4 +275,275 @@ TEST_F(ContinuationJobs, ARestartIsPlainUnlessItAddsMoreThanStepData) {
     EXPECT_TRUE(input.IsImportJob() && input.HasMapSolution() &&
                 input.HasSymmetricModelGeneration());
     EXPECT_FALSE(sink().HasErrors());  // not a restart job: nothing to refuse
+}
+
+// -- continuation jobs on the part map of an earlier job ---------------------------------------
+
+namespace {
+
+char const* const kFlatModel = R"(*NODE
+1, 0., 0.
+2, 1., 0.
+3, 1., 1.
+*ELEMENT, TYPE=CPS3, ELSET=PLATE
+10, 1, 2, 3
+*NSET, NSET=FIXED
+1, 2
+*NSET, NSET=TIP
+3
+*STEP
+*STATIC
+*BOUNDARY
+FIXED, ENCASTRE
+*END STEP
+)";
+
+// A finished job's model, and the continuation job that goes on from it.
+class ContinuedJobs : public ::testing::Test {
+  protected:
+    void SetUp() override { sink().Clear(); }
+    void TearDown() override { sink().Clear(); }
+
+    inpM_PartMap finish(std::string const& deck) {
+        inp_InputFile earlier;
+        earlier.Run(dir.Write("earlier.inp", deck), inp_Stage::OutOfPlace);
+        EXPECT_FALSE(sink().HasErrors());
+        return earlier.MakePartMap();
+    }
+    void continueFrom(inpM_PartMap partMap, std::string const& deck) {
+        job.Run(dir.Write("later.inp", deck), inp_Stage::Expand);
+        job.InheritPartMap(partMap, false);
+    }
+    std::string diagnostics() const {
+        std::string text;
+        for (wip_Diagnostic const& diagnostic : sink().Diagnostics())
+            text += std::string(diagnostic.text.View()) + "\n";
+        return text;
+    }
+    bool hasNodeSet(char const* name) const {
+        inpM_SetMap const& sets = job.AssemblyNsets();
+        if (sets.HasSet(name)) return true;
+        for (cow_String const& instance : sets.Instances())
+            if (sets.HasNestedSet(instance, name)) return true;
+        return false;
+    }
+
+    TempDeckDirectory dir;
+    inp_InputFile job;
+};
+
+}  // namespace
+
+TEST_F(ContinuedJobs, APlainRestartTakesTheModelAndLeavesItsStepsFlat) {
+    inpM_PartMap const partMap = finish(kFlatModel);
+    EXPECT_TRUE(partMap.IsFakePartModel());
+    EXPECT_FALSE(partMap.FeatureEnhanced());
+    EXPECT_TRUE(partMap.IsRenumbered());
+
+    continueFrom(partMap, "*STEP\n*STATIC\n*CLOAD\nTIP, 2, 1.\n*END STEP\n");
+    EXPECT_FALSE(sink().HasErrors()) << diagnostics();
+    EXPECT_TRUE(job.IsRestartJob() && job.IsPlainRestart());
+    EXPECT_TRUE(job.IsFakePartModel());
+    EXPECT_TRUE(hasNodeSet("FIXED") && hasNodeSet("TIP"));
+    EXPECT_EQ(job.NodeIdMap().NumberIds(), 3);
+    // Neither the fake part nor the organizer ran: the step stands at the top.
+    ASSERT_EQ(job.Keywords().Length(), 4);
+    EXPECT_TRUE(job.Keywords().ConstGet(0).Is(inp_kw_Step));
+    EXPECT_EQ(job.Keywords().ConstGet(0).Suboptions().Length(), 0);
+}
+
+// New nodes and elements continue the numbering of the earlier job; the
+// ids that job numbered keep their numbers.
+TEST_F(ContinuedJobs, ARestartOfAFlatModelMayAddMeshNumberedAfterTheOldOne) {
+    inpM_PartMap const partMap = finish(kFlatModel);
+    inpM_IdMap const& oldNodes = partMap.ConstGetNodeIdMap();
+    ASSERT_EQ(oldNodes.Instances().Length(), 1);
+    cow_String const part = oldNodes.Instances().ConstGet(0);
+
+    continueFrom(partMap, "*NODE\n7, 2., 0.\n*ELEMENT, TYPE=CPS3, ELSET=MORE\n11, 2, 7, 3\n");
+    EXPECT_FALSE(job.IsPlainRestart());
+    EXPECT_TRUE(job.IsFakePartModel());
+    inpM_IdMap const& nodes = job.NodeIdMap().ConstGet(part);
+    EXPECT_EQ(nodes.ConstGet(1), oldNodes.ConstGet(part).ConstGet(1));
+    EXPECT_EQ(nodes.ConstGet(3), oldNodes.ConstGet(part).ConstGet(3));
+    ASSERT_TRUE(nodes.IsMember(7));
+    EXPECT_EQ(nodes.ConstGet(7), 4);
+    EXPECT_EQ(job.ElementIdMap().ConstGet(part).ConstGet(11), 2);
+    EXPECT_TRUE(hasNodeSet("FIXED"));
+    EXPECT_FALSE(job.Keywords().IsEmpty());
+}
+
+TEST_F(ContinuedJobs, AnImportJobKeepsOnlyTheSetsItNamesAndAllowsNoParts) {
+    inpM_PartMap const partMap = finish(kFlatModel);
+    continueFrom(partMap, "*IMPORT, STEP=1\nPLATE\n*IMPORT NSET\nTIP\n");
+    EXPECT_TRUE(job.IsImportJob());
+    EXPECT_FALSE(job.PartModelAllowed());
+    EXPECT_TRUE(hasNodeSet("TIP"));
+    EXPECT_FALSE(hasNodeSet("FIXED"));
+    // The part map stands in for the earlier job: no demand for one.
+    EXPECT_EQ(diagnostics().find("requires the part map"), std::string::npos) << diagnostics();
+}
+
+// A symmetric model generation builds its own internal sets; the earlier
+// job's go from the part map it was handed.
+TEST_F(ContinuedJobs, ASymmetricModelGenerationDropsTheEarlierInternalSets) {
+    inpM_PartMap partMap = finish(kFlatModel);
+    partMap.GetNsets().InsertSet(cow_String("_INTERNAL"), CreateSet(cow_List<int>{1}, true, false));
+    job.Run(dir.Write("later.inp", "*SYMMETRIC MODEL GENERATION, REFLECT=LINE\n0., 0., 0.\n"),
+            inp_Stage::Expand);
+    job.InheritPartMap(partMap, false);
+    EXPECT_TRUE(job.HasSymmetricModelGeneration());
+    EXPECT_FALSE(partMap.GetNsets().HasSet("_INTERNAL"));
+    EXPECT_TRUE(hasNodeSet("FIXED"));
+}
+
+// The sets of a model in parts go into the earlier job's numbering;
+// ids the id map lacks stay as they are.
+TEST_F(ContinuedJobs, TheSetsOfAModelInPartsAreRenumbered) {
+    inpM_PartMap partMap;
+    partMap.SetFeatureEnhanced(true);
+    partMap.GetNsets().InsertSet(cow_String("N"), CreateSet(cow_List<int>{5, 9}, false, false));
+    partMap.GetNodeIdMap().Insert(5, 1);
+    continueFrom(partMap, "*STEP\n*STATIC\n*END STEP\n");
+    EXPECT_FALSE(sink().HasErrors()) << diagnostics();
+    EXPECT_TRUE(job.IsPartsAndAssembly());
+    cow_List<int> const ids = job.AssemblyNsets().ConstGetSet("N")->ConstGetIdList();
+    ASSERT_EQ(ids.Length(), 2);
+    EXPECT_EQ(ids.ConstGet(0), 1);
+    EXPECT_EQ(ids.ConstGet(1), 9);
+}
+
+// -- the sets and surfaces a restart adds ---------------------------------------------------
+
+namespace {
+
+char const* const kPartsModel = R"(*PART, NAME=P
+*NODE
+1, 0., 0.
+2, 1., 0.
+3, 1., 1.
+*ELEMENT, TYPE=CPS3, ELSET=E
+1, 1, 2, 3
+*NSET, NSET=CORNER
+1
+*SOLID SECTION, ELSET=E, MATERIAL=M
+*END PART
+*ASSEMBLY, NAME=A
+*INSTANCE, NAME=I, PART=P
+*END INSTANCE
+*NSET, NSET=OLD
+I.1
+*END ASSEMBLY
+*MATERIAL, NAME=M
+*ELASTIC
+1., 0.3
+)";
+
+// Runs the restart visitors over a restart deck that follows `model`.
+struct RestartReading {
+    std::string errors;
+    inpM_SetMap nodeSets;
+    inpM_SurfaceMap surfaces;
+};
+
+}  // namespace
+
+class RestartSets : public ContinuedJobs {
+  protected:
+    RestartReading read(char const* model, std::string const& restart, char const* assembly) {
+        inpM_PartMap const partMap = finish(model);
+        continueFrom(partMap, restart);
+        EXPECT_FALSE(sink().HasErrors()) << diagnostics();
+        RestartReading result;
+        inp_RestartSetVisitor nodes(inp_RestartSetVisitor::Kind::NodeSets, partMap.ConstGetNsets(),
+                                    cow_String(assembly), partMap.FeatureEnhanced(),
+                                    partMap.ConstGetNodeIdMap());
+        nodes.setInstancePartNames(partMap.ConstGetInstancePartNames());
+        nodes.VisitList(job.GetKeywords());
+        inpM_SetMap nodeSets = partMap.ConstGetNsets();
+        nodeSets.Merge(nodes.NewSets());
+        inp_RestartSurfaceVisitor surfaces(
+            partMap.ConstGetSurfaceMap(), cow_String(assembly), partMap.FeatureEnhanced(), nodeSets,
+            partMap.ConstGetElsets(), inpM_InstanceMap<inp_MapInt2Element>());
+        surfaces.VisitList(job.GetKeywords());
+        result.errors = std::string(nodes.Errors().View()) + std::string(surfaces.Errors().View());
+        result.nodeSets = nodes.NewSets();
+        result.surfaces = surfaces.NewSurfaces();
+        return result;
+    }
+};
+
+// A flat model's new set finds each id and set in the generated instance
+// that holds it; the names of the earlier job may not be taken again.
+TEST_F(RestartSets, AFlatModelsNewSetsSpanItsInstancesUnderPlainNames) {
+    RestartReading const read = this->read(kFlatModel, R"(*NSET, NSET=NEW
+3, TIP
+*NSET, NSET=RANGE, GENERATE
+1, 3, 2
+*NSET, NSET=FIXED
+1
+*NSET, NSET=A.B
+1
+*NSET, NSET=LOST
+99, NOSUCH
+*SURFACE, NAME=EDGE, TYPE=NODE
+NEW
+*SURFACE, NAME=X.Y, TYPE=NODE
+NEW
+*SURFACE, NAME=R, TYPE=CYLINDER
+)",
+                                           "Assembly-1");
+    ASSERT_TRUE(read.nodeSets.HasSet("NEW"));
+    inpM_BaseSet::InstanceIds const ids = read.nodeSets.ConstGetSet("NEW")->ConstGetInstanceIds();
+    ASSERT_TRUE(ids.IsMember(cow_String("PART-1-1")));
+    EXPECT_EQ(ids.ConstGet(cow_String("PART-1-1")).Size(), 1);  // 3, and TIP is 3
+    EXPECT_EQ(read.nodeSets.ConstGetSet("RANGE")
+                  ->ConstGetInstanceIds()
+                  .ConstGet(cow_String("PART-1-1"))
+                  .Size(),
+              2);
+    EXPECT_FALSE(read.nodeSets.HasSet("FIXED"));
+    for (char const* expected :
+         {"the set FIXED already exists in the original analysis",
+          "should not contain any periods which imply an assembly of part instances.  The "
+          "unrecognizable name is: A.B",
+          "The following sets/IDs do not exist", "99, NOSUCH",
+          "only assembly level element and node-based surfaces may be defined",
+          "Analytical surfaces may not be defined upon restart. "})
+        EXPECT_NE(read.errors.find(expected), std::string::npos) << expected << "\n" << read.errors;
+    EXPECT_TRUE(read.surfaces.IsMemberAssemblyInstanceSurface(cow_String("EDGE")));
+}
+
+// A model in parts names a new set in full: the assembly, then an instance
+// or not.
+TEST_F(RestartSets, AModelInPartsNamesNewSetsWithTheAssemblyFirst) {
+    RestartReading const read = this->read(kPartsModel, R"(*NSET, NSET=A.I.TIP
+3
+*NSET, NSET=A.BOTH
+I.2, OLD
+*NSET, NSET=PLAIN
+1
+*NSET, NSET=B.S
+1
+*NSET, NSET=A.G, GENERATE
+1, 2
+*NSET, NSET=A.OLD
+1
+*SURFACE, NAME=A.I.SIDE, TYPE=NODE
+TIP
+)",
+                                           "A");
+    EXPECT_TRUE(read.nodeSets.HasNestedSet(cow_String("I"), cow_String("TIP")));
+    ASSERT_TRUE(read.nodeSets.HasSet("BOTH"));
+    inpM_BaseSet::InstanceIds const both = read.nodeSets.ConstGetSet("BOTH")->ConstGetInstanceIds();
+    EXPECT_EQ(both.ConstGet(cow_String("I")).Size(), 2);
+    EXPECT_FALSE(read.nodeSets.HasSet("PLAIN") || read.nodeSets.HasSet("G"));
+    for (char const* expected :
+         {"The unrecognizable name in question is PLAIN",
+          "B is not the assembly name in the original analysis.",
+          "The GENERATE option on *NSET/*ELSET is not supported when defining an assembly level "
+          "set",
+          "the set A.OLD already exists in the original analysis"})
+        EXPECT_NE(read.errors.find(expected), std::string::npos) << expected << "\n" << read.errors;
+    EXPECT_TRUE(read.surfaces.IsMemberAssemblyInstanceSurface(cow_String("SIDE")));
 }

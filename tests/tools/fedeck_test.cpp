@@ -297,14 +297,35 @@ TEST_F(FedeckProgram, MissingIncludeIsFatalAndListed) {
 TEST_F(FedeckProgram, TreeOutputParsesBackToTheSameKeywords) {
     write("part.inp", "*ELEMENT, TYPE=T2D2, ELSET=BARS\n1, 1, 2\n");
     write("deck.inp", std::string(kCleanDeck) + "*INCLUDE, INPUT=part.inp\n");
-    Outcome const tree = run({"tree", "deck.inp"});
+    Outcome const tree = run({"tree", "--until", "organize", "deck.inp"});
     EXPECT_EQ(tree.status, 0) << tree.err;
     write("printed.inp", tree.out);
-    Outcome const again = run({"tree", "printed.inp"});
+    Outcome const again = run({"tree", "--until", "organize", "printed.inp"});
     EXPECT_EQ(again.status, 0);
     EXPECT_EQ(again.out, tree.out);
     EXPECT_EQ(run({"check", "--until", "organize", "printed.inp"}).out,
               "printed.inp: 3 keywords, 0 errors, 0 warnings\n");
+}
+
+// By default the tree is the converter's: a flat deck as the part, instance
+// and assembly it becomes, its mesh written into the part, which a second
+// run reads as a deck in parts with the same model.
+TEST_F(FedeckProgram, TreeShowsAFlatDeckAsItsGeneratedPart) {
+    write("deck.inp",
+          "*NODE, NSET=ALL\n1, 0., 0.\n2, 1., 0.\n*ELEMENT, TYPE=T2D2, ELSET=BARS\n"
+          "1, 1, 2\n*STEP\n*STATIC\n*BOUNDARY\nALL, 1, 2\n*END STEP\n");
+    Outcome const tree = run({"tree", "deck.inp"});
+    EXPECT_EQ(tree.status, 0) << tree.err;
+    for (char const* expected :
+         {"*PART, NAME=PART-1\n", "*NODE\n1, 0, 0, 0\n2, 1, 0, 0\n",
+          "*ELEMENT, TYPE=T2D2\n1, 1, 2\n", "*INSTANCE, NAME=PART-1-1, PART=PART-1\n",
+          "*BOUNDARY\nPART-1-1.ALL,1,2\n"})
+        EXPECT_NE(tree.out.find(expected), std::string::npos) << expected << "\n" << tree.out;
+    write("printed.inp", tree.out);
+    Outcome const check = run({"check", "--json", "printed.inp"});
+    EXPECT_EQ(check.status, 0) << check.out;
+    EXPECT_NE(check.out.find(R"("instances": 1, "nodes": 2, "elements": 1)"), std::string::npos)
+        << check.out;
 }
 
 TEST_F(FedeckProgram, TreeOfADeckWithErrorsIsPrintedAllTheSame) {
@@ -325,9 +346,16 @@ TEST_F(FedeckProgram, EncryptedIncludeReadsAsThePlainFileButTreeHidesItsData) {
     EXPECT_EQ(run({"check", "--until", "organize", "secret.inp"}).out,
               "secret.inp: 2 keywords, 0 errors, 0 warnings\n");
     EXPECT_EQ(parsedKeywords(path("secret.inp")), parsedKeywords(path("plain.inp")));
-    EXPECT_EQ(run({"tree", "secret.inp"}).out,
+    EXPECT_EQ(run({"tree", "--until", "organize", "secret.inp"}).out,
               "*NODE, NSET=ALL\n** data lines from an encrypted file are not shown\n"
               "*ELEMENT, TYPE=T2D2\n** data lines from an encrypted file are not shown\n");
+    // Made a part, the mesh is written anew from the maps: none of it shows.
+    Outcome const converted = run({"tree", "secret.inp"});
+    EXPECT_NE(converted.out.find("*PART, NAME=PART-1\n"), std::string::npos) << converted.out;
+    EXPECT_EQ(converted.out.find("1, 0, 0"), std::string::npos) << converted.out;
+    EXPECT_EQ(converted.out.find("1,\n"), std::string::npos) << converted.out;
+    EXPECT_NE(converted.out.find("** data lines from an encrypted file are not shown"),
+              std::string::npos);
 }
 
 TEST_F(FedeckProgram, EncryptFailuresTellUnreadableInputFromOthers) {
@@ -379,4 +407,35 @@ TEST_F(FedeckProgram, MaxDiagnosticsLimitsTheTextButNotTheJson) {
         EXPECT_EQ(usage.status, 2) << bad;
         EXPECT_NE(usage.err.find("option '--max-diagnostics' needs a count"), std::string::npos);
     }
+}
+
+// A continuation job reports on the later deck alone, unless the earlier one
+// has errors: then there is no model to go on from.
+TEST_F(FedeckProgram, ARestartIsCheckedAgainstTheModelOfTheEarlierDeck) {
+    write("earlier.inp",
+          "*NODE\n1, 0., 0.\n2, 1., 0.\n*ELEMENT, TYPE=T2D2, ELSET=BAR\n1, 1, 2\n"
+          "*NSET, NSET=ENDS\n1, 2\n");
+    write("later.inp", "*NSET, NSET=LEFT\n1\n*NSET, NSET=ENDS\n2\n");
+    Outcome const later = run({"check", "--json", "--restart-from", "earlier.inp", "later.inp"});
+    EXPECT_EQ(later.status, 1);
+    EXPECT_NE(later.out.find(R"("deck": "later.inp", "stage": "inherit-part-map")"),
+              std::string::npos)
+        << later.out;
+    EXPECT_NE(later.out.find("the set ENDS already exists in the original analysis"),
+              std::string::npos)
+        << later.out;
+    EXPECT_EQ(later.out.find("LEFT"), std::string::npos) << later.out;
+
+    write("broken.inp", "*FROBNICATE\n");
+    Outcome const broken = run({"check", "--restart-from=broken.inp", "later.inp"});
+    EXPECT_EQ(broken.status, 1);
+    EXPECT_EQ(broken.out.find("broken.inp:1: error: "), 0u) << broken.out;
+    EXPECT_EQ(broken.out.find("later.inp"), std::string::npos) << broken.out;
+
+    EXPECT_EQ(run({"check", "--restart-from", "missing.inp", "later.inp"}).status, 2);
+    Outcome const withUntil =
+        run({"check", "--restart-from", "earlier.inp", "--until", "parse", "later.inp"});
+    EXPECT_EQ(withUntil.status, 2);
+    EXPECT_NE(withUntil.err.find("'--until' does not apply to a continuation job"),
+              std::string::npos);
 }
