@@ -4,7 +4,7 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan bench fuzz format format-check tidy install clean
+.PHONY: all build run test test-asan bench bench-pipeline fuzz format format-check tidy install clean
 
 all: build
 
@@ -42,6 +42,23 @@ $(BUILD_REL)/CMakeCache.txt:
 bench: $(BUILD_REL)/CMakeCache.txt
 	cmake --build $(BUILD_REL) -j $(JOBS)
 	for b in $(BUILD_REL)/bench_*; do echo "== $$b"; $$b --benchmark_repetitions=5 --benchmark_report_aggregates_only=true; done
+
+# The road of a new job, stage by stage, on the 100 x 100 x 100 flat deck
+# and on a deck of 100 instances of a 50 x 50 x 50 part; then the whole road
+# (fedeck check --json) beside the floor, medians of 5 runs. The floor is
+# built from FLOOR when that file exists.
+FLOOR      ?= ../shared/floor/floor.cpp
+DECKS      ?= $(BUILD_REL)/decks
+
+bench-pipeline: $(BUILD_REL)/CMakeCache.txt
+	cmake --build $(BUILD_REL) -j $(JOBS) --target road_table fedeck_cli generate_deck
+	mkdir -p $(DECKS)
+	test -f $(DECKS)/flat-100.inp || $(BUILD_REL)/generate_deck 100 100 100 $(DECKS)/flat-100.inp
+	test -f $(DECKS)/parts-50x100.inp || $(BUILD_REL)/generate_deck 50 50 50 100 $(DECKS)/parts-50x100.inp
+	if [ -f $(FLOOR) ]; then g++ -O2 -std=c++20 -o $(BUILD_REL)/floor $(FLOOR); fi
+	$(BUILD_REL)/road_table --fedeck $(BUILD_REL)/fedeck \
+	  $$([ -f $(BUILD_REL)/floor ] && echo --floor $(BUILD_REL)/floor) \
+	  $(DECKS)/flat-100.inp $(DECKS)/parts-50x100.inp
 
 # The parser under libFuzzer for a minute, starting from a copy of the seed
 # corpus so the checked-in seeds stay as they are. A crash, a leak or an

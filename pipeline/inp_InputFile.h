@@ -142,6 +142,11 @@ class inp_InputFile {
     // name are kept; a symmetric model generation drops the earlier job's
     // internal sets from `partMap` itself.
     void InheritPartMap(inpM_PartMap& partMap, bool atelierCompatible);
+    // The sets and surfaces a continuation job adds (as the restart set and
+    // surface visitors read them) join its assembly's maps; NewNsets,
+    // NewElsets and NewSurfaces keep them apart as well.
+    void AddRestartSetsAndSurfaces(inpM_SetMap const& nodeSets, inpM_SetMap const& elementSets,
+                                   inpM_SurfaceMap const& surfaces);
     // The finished model of this job, for a job that continues it: the
     // assembly's sets and surfaces, the id maps, the instances' parts and
     // what the model is made of. Shares the maps; nothing is copied.

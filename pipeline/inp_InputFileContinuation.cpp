@@ -113,6 +113,17 @@ void inp_InputFile::inheritModel(inpM_PartMap const& partMap) {
     m_assemblyNsets.Renumber(m_nodeIdMap, true);
 }
 
+void inp_InputFile::AddRestartSetsAndSurfaces(inpM_SetMap const& nodeSets,
+                                              inpM_SetMap const& elementSets,
+                                              inpM_SurfaceMap const& surfaces) {
+    m_newNsets.Merge(nodeSets);
+    m_newElsets.Merge(elementSets);
+    m_newSurfaces.Merge(surfaces);
+    m_assemblyNsets.Merge(nodeSets);
+    m_assemblyElsets.Merge(elementSets);
+    m_assemblySurfaces.Merge(surfaces);
+}
+
 inpM_PartMap inp_InputFile::MakePartMap() const {
     inpM_PartMap partMap;
     partMap.GetNsets() = m_assemblyNsets;

@@ -87,6 +87,22 @@ inpM_IdMap continuedNumbering(inpM_IdMap const& inherited, inpM_IdMap const& fre
     return result;
 }
 
+// The levels of `sets` that are parts of `coordinates` or `elements`, and
+// its own level. A continuation job's set assignment also meets the earlier
+// job's sets, kept by instance; those stay with the assembly.
+inpM_SetMap partLevelsOf(inpM_SetMap const& sets, inp_CoordMap const& coordinates,
+                         inpM_InstanceMap<inp_MapInt2Element> const& elements) {
+    inpM_SetMap parts;
+    sets.ConstGetSetMap().ForEachSorted(
+        [&parts](cow_String const& name, inpM_SetHandle const& set) {
+            parts.InsertSet(name, set);
+        });
+    for (cow_String const& level : sets.Instances())
+        if (coordinates.IsMember(level) || elements.IsMember(level))
+            parts.InsertNestedSetMap(level, sets.ConstGetNestedSetMap(level));
+    return parts;
+}
+
 }  // namespace
 
 void inp_InputFile::FakeEnhancements(bool atelierCompatible) {
@@ -164,6 +180,10 @@ void inp_InputFile::FakeEnhancements(bool atelierCompatible) {
     assign->Keywords(m_keywords);
     m_partNsets = assign->ConstGetNsetMap();
     m_partElsets = assign->ConstGetElsetMap();
+    if (m_restartJob) {
+        m_partNsets = partLevelsOf(m_partNsets, m_partCoordMap, m_partElementMap);
+        m_partElsets = partLevelsOf(m_partElsets, m_partCoordMap, m_partElementMap);
+    }
     assign->Report();
     assign.reset();
 

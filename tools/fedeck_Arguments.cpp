@@ -56,7 +56,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
             return option == "--include-dir" || option == "--until" ||
                    option == "--max-diagnostics";
         case fedeck_Command::Model:
-            return option == "--include-dir" || option == "--until";
+            return option == "--include-dir" || option == "--until" || option == "--restart-from";
         case fedeck_Command::Encrypt:
             return option == "--password";
         case fedeck_Command::Help:

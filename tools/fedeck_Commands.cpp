@@ -1,6 +1,7 @@
 #include "tools/fedeck_Commands.h"
 
 #include <filesystem>
+#include <functional>
 #include <new>
 
 #include "deck/inp_DeckWriter.h"
@@ -168,21 +169,26 @@ int writeCheckReport(fedeck_Report const& report, fedeck_Arguments const& argume
     return exitStatusOf(report);
 }
 
-// The earlier deck's report is shown only when it has errors: then there is
-// no model to go on from, and the later deck is not run.
-int runContinuationCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
+// What a command writes of a deck that has run, and its exit status.
+using DeckOutput = std::function<int(CheckedDeck const&, fedeck_Arguments const&)>;
+
+// Runs the job the command line asks for and hands its deck to `output`: a
+// new job up to --until, or a job that continues the --restart-from deck.
+// Of a continuation, the earlier deck is output only when it has errors:
+// then there is no model to go on from, and the later deck is not run.
+int runJob(fedeck_Arguments const& arguments, DeckOutput const& output) {
+    if (arguments.restartFrom.empty())
+        return output(CheckedDeck(arguments, lastStageToRun(arguments.until)), arguments);
     fedeck_Arguments const earlierArguments = earlierJobOf(arguments);
     CheckedDeck const earlier(earlierArguments, lastStageToRun(std::string()));
-    fedeck_Report const earlierReport = earlier.Report();
-    if (earlierReport.HasErrors()) return writeCheckReport(earlierReport, earlierArguments, out);
-    CheckedDeck const later(arguments, earlier.Deck());
-    return writeCheckReport(later.Report(), arguments, out);
+    if (earlier.Report().HasErrors()) return output(earlier, earlierArguments);
+    return output(CheckedDeck(arguments, earlier.Deck()), arguments);
 }
 
 int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
-    if (!arguments.restartFrom.empty()) return runContinuationCheck(arguments, out);
-    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
-    return writeCheckReport(checked.Report(), arguments, out);
+    return runJob(arguments, [&](CheckedDeck const& checked, fedeck_Arguments const& asked) {
+        return writeCheckReport(checked.Report(), asked, out);
+    });
 }
 
 // The keyword list goes out even when the deck has errors: what could be read
@@ -205,14 +211,15 @@ int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& er
 // The maps go out even when the deck has errors, as far as the stages that
 // ran built them: a script sees what the deck came to and where it stopped.
 int runModel(fedeck_Arguments const& arguments, aio_ostream& out) {
-    CheckedDeck const checked(arguments, lastStageToRun(arguments.until));
-    fedeck_Report const report = checked.Report();
-    out.put('{');
-    report.WriteJsonFields(out);
-    out.print(", ");
-    fedeck_WriteModelFields(out, checked.Deck());
-    out.print("}\n");
-    return exitStatusOf(report);
+    return runJob(arguments, [&](CheckedDeck const& checked, fedeck_Arguments const&) {
+        fedeck_Report const report = checked.Report();
+        out.put('{');
+        report.WriteJsonFields(out);
+        out.print(", ");
+        fedeck_WriteModelFields(out, checked.Deck());
+        out.print("}\n");
+        return exitStatusOf(report);
+    });
 }
 
 int runCommand(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
@@ -264,7 +271,7 @@ std::string fedeck_UsageText() {
            "  fedeck check --restart-from EARLIER [--include-dir DIR] [--json]\n"
            "               [--max-diagnostics N] DECK\n"
            "  fedeck tree  [--include-dir DIR] [--until STAGE] [--max-diagnostics N] DECK\n"
-           "  fedeck model [--include-dir DIR] [--until STAGE] DECK\n"
+           "  fedeck model [--include-dir DIR] [--until STAGE | --restart-from EARLIER] DECK\n"
            "  fedeck encrypt --password P IN OUT\n"
            "  fedeck help | --help\n"
            "  fedeck version | --version\n"
@@ -315,10 +322,10 @@ std::string fedeck_UsageText() {
            "                     \"keyword\" are null where unknown\n"
            "  --max-diagnostics N  print at most N diagnostics as text, then one line\n"
            "                     saying how many more there were (JSON has them all)\n"
-           "  --restart-from EARLIER  check DECK as a job that continues the deck\n"
-           "                     EARLIER: EARLIER is checked first, as a new job (its\n"
-           "                     report is shown only when it has errors, and DECK is\n"
-           "                     then not checked); DECK is parsed and expanded, takes\n"
+           "  --restart-from EARLIER  check or model: DECK is a job that continues\n"
+           "                     the deck EARLIER, which is run first, as a new job (its\n"
+           "                     output is given only when it has errors, and DECK is\n"
+           "                     then not run); DECK is parsed and expanded, takes\n"
            "                     EARLIER's model, and its new sets and surfaces are\n"
            "                     read against EARLIER's names (stage \"inherit-part-map\")\n"
            "  --password P       password of the encrypted file (not empty)\n"

@@ -41,4 +41,6 @@ void fedeck_ReadRestartSetsAndSurfaces(inp_InputFile& later, inp_InputFile const
                                        elements, earlier.AssemblyElementMap());
     surfaces.setInstancePartNames(partMap.ConstGetInstancePartNames());
     surfaces.VisitListAndReport(later.GetKeywords());
+    later.AddRestartSetsAndSurfaces(nodeSets.NewSets(), elementSets.NewSets(),
+                                    surfaces.NewSurfaces());
 }

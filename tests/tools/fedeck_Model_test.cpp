@@ -409,3 +409,134 @@ TEST(FedeckModelReadme, ExampleGivesTheDocumentedOutput) {
               std::string::npos);
     EXPECT_NE(readme.find("```json\n" + expected + "```"), std::string::npos);
 }
+
+// -- every kind of job, through the whole road --------------------------------------------
+
+namespace {
+
+// A flat deck whose rigid body holds an analytical surface: that surface
+// gets a part and an instance of its own, the mesh stays in PART-1.
+constexpr char kFlatRigidDeck[] = R"(*NODE
+1, 0., 0., 0.
+2, 1., 0., 0.
+3, 1., 1., 0.
+4, 0., 1., 0.
+5, 0., 0., 1.
+6, 1., 0., 1.
+7, 1., 1., 1.
+8, 0., 1., 1.
+100, 5., 5., 5.
+101, 9., 9., 9.
+102, 10., 9., 9.
+*ELEMENT, TYPE=C3D8, ELSET=BLOCK
+1, 1, 2, 3, 4, 5, 6, 7, 8
+*ELEMENT, TYPE=R3D3, ELSET=PLATE
+2, 100, 101, 102
+*RIGID BODY, REF NODE=100, ELSET=PLATE
+*SURFACE, NAME=FLOOR, TYPE=SEGMENTS
+START, 0., 0.
+LINE, 1., 0.
+*RIGID BODY, REF NODE=101, ANALYTICAL SURFACE=FLOOR
+*SOLID SECTION, ELSET=BLOCK, MATERIAL=STEEL
+*MATERIAL, NAME=STEEL
+*ELASTIC
+210000., 0.3
+*STEP
+*STATIC
+*END STEP
+)";
+
+// The earlier job of the continuation jobs below.
+constexpr char kEarlierJob[] = R"(*NODE
+1, 0., 0.
+2, 1., 0.
+3, 1., 1.
+*ELEMENT, TYPE=CPS3, ELSET=PLATE
+10, 1, 2, 3
+*NSET, NSET=FIXED
+1, 2
+*NSET, NSET=TIP
+3
+*STEP
+*STATIC
+*BOUNDARY
+FIXED, ENCASTRE
+*END STEP
+)";
+
+class FedeckJobs : public FedeckModel {
+  protected:
+    Json continued(std::string const& deck) {
+        std::string const earlier(m_dir.Write("earlier.inp", kEarlierJob).View());
+        Outcome const run = model(deck, {"--restart-from", earlier});
+        EXPECT_EQ(run.status, 0) << run.out;
+        Json json = run.Model();
+        EXPECT_EQ(json["stage"].text, "inherit-part-map");
+        EXPECT_EQ(json["fakePartModel"].number, 1.0);
+        return json;
+    }
+};
+
+}  // namespace
+
+TEST_F(FedeckJobs, AFlatDeckWithRigidBodiesKeepsItsMeshAndGivesTheSurfaceAPart) {
+    Outcome const run = model(kFlatRigidDeck);
+    ASSERT_EQ(run.status, 0) << run.out;
+    Json const json = run.Model();
+    EXPECT_EQ(json["parts"].order, (std::vector<std::string>{"FLOOR", "PART-1"}));
+    EXPECT_EQ(json["parts"]["FLOOR"]["surfaces"]["FLOOR"]["type"].text, "analytical");
+    Json const& part = json["parts"]["PART-1"];
+    ASSERT_EQ(part["nodes"].items.size(), 11u);
+    EXPECT_EQ(ints(part["nodes"][10]), (std::vector<int>{102, 10, 9, 9}));
+    Json const& instances = json["assembly"]["instances"];
+    EXPECT_EQ(instances.order, (std::vector<std::string>{"FLOOR-1", "PART-1-1"}));
+    EXPECT_EQ(instances["FLOOR-1"]["part"].text, "FLOOR");
+    ASSERT_EQ(instances["PART-1-1"]["elements"].items.size(), 2u);
+    EXPECT_EQ(instances["PART-1-1"]["elements"][1][1].text, "R3D3");
+    EXPECT_EQ(ints(instances["PART-1-1"]["elementSets"]["PLATE"]), std::vector<int>{2});
+}
+
+// A restart of step data only: its new sets are read against the earlier
+// model, each id found in the instance that holds it.
+TEST_F(FedeckJobs, ARestartAddsSetsAndSurfacesToTheEarlierModel) {
+    Json const json = continued(
+        "*ELSET, ELSET=ALSO\nPLATE\n*NSET, NSET=CORNER\n3\n"
+        "*SURFACE, NAME=EDGE\nALSO, S1\n*STEP\n*STATIC\n*CLOAD\n"
+        "CORNER, 2, 1.\n*END STEP\n");
+    Json const& assembly = json["assembly"];
+    EXPECT_EQ(ints(assembly["nodeSets"]["CORNER"]["instances"]["PART-1-1"]), std::vector<int>{3});
+    EXPECT_EQ(ints(assembly["elementSets"]["ALSO"]["instances"]["PART-1-1"]), std::vector<int>{10});
+    EXPECT_EQ(ints(assembly["surfaces"]["EDGE"]["instances"]["PART-1-1"]["faces"]["S1"]),
+              std::vector<int>{10});
+    // The earlier model's sets stand where that job left them.
+    EXPECT_EQ(ints(assembly["instances"]["PART-1-1"]["nodeSets"]["FIXED"]),
+              (std::vector<int>{1, 2}));
+    EXPECT_TRUE(json["parts"].members.empty());  // no mesh of its own
+}
+
+TEST_F(FedeckJobs, ARestartThatAddsMeshMakesItsOwnPart) {
+    Json const json = continued("*NODE\n7, 2., 0.\n*ELEMENT, TYPE=CPS3, ELSET=MORE\n11, 2, 7, 3\n");
+    EXPECT_EQ(json["parts"].order, std::vector<std::string>{"PART-1"});
+    Json const& instance = json["assembly"]["instances"]["PART-1-1"];
+    EXPECT_EQ(ints(instance["elements"][0]), (std::vector<int>{11, 0, 2, 7, 3}));
+    EXPECT_EQ(ints(instance["elementSets"]["MORE"]), std::vector<int>{11});
+    EXPECT_EQ(ints(instance["elementSets"]["PLATE"]), std::vector<int>{10});
+}
+
+// An import keeps of the earlier sets only those its keywords name.
+TEST_F(FedeckJobs, AnImportKeepsTheSetsItNames) {
+    Json const json = continued("*IMPORT, STEP=1, UPDATE=NO\nPLATE\n*IMPORT NSET\nTIP\n");
+    Json const& instance = json["assembly"]["instances"]["PART-1-1"];
+    EXPECT_EQ(instance["elementSets"].order, std::vector<std::string>{"PLATE"});
+    EXPECT_EQ(instance["nodeSets"].order, std::vector<std::string>{"TIP"});
+}
+
+TEST_F(FedeckJobs, ASymmetricModelGenerationGoesOnFromTheEarlierSets) {
+    Json const json = continued(
+        "*SYMMETRIC MODEL GENERATION, REFLECT=LINE, ELEMENT OFFSET=100, "
+        "NODE OFFSET=100\n0., 0., 0.\n0., 1., 0.\n");
+    EXPECT_TRUE(json["diagnostics"].items.empty());
+    Json const& instance = json["assembly"]["instances"]["PART-1-1"];
+    EXPECT_EQ(ints(instance["nodeSets"]["FIXED"]), (std::vector<int>{1, 2}));
+    EXPECT_EQ(json["parts"].order, std::vector<std::string>{"PART-1"});
+}

@@ -1,0 +1,189 @@
+// road_table [--runs N] [--fedeck PROGRAM] [--floor PROGRAM] DECK...
+//
+// The cost of the road of a new job, deck by deck, as a table: each stage's
+// time, throughput and the peak memory of the process so far, from one run
+// of the stages in a process of its own; then the whole road as users meet
+// it, `fedeck check --json DECK` from process start to exit (median of N
+// runs, with its peak memory), beside the floor program run on the same deck
+// in the same way, and the ratio of the two. The floor is the least work any
+// reader of such a deck must do; measuring both in one run keeps the ratio
+// meaningful on a noisy machine.
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "pipeline/inp_InputFile.h"
+#include "support/thr_Singleton.h"
+#include "support/wip_WIP.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct Options {
+    int runs = 5;
+    std::string fedeck;
+    std::string floor;
+    std::vector<std::string> decks;
+};
+
+// The peak resident set of this process so far, in MB.
+double peakMegabytesOfSelf() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024.0;
+}
+
+double seconds(Clock::duration duration) {
+    return std::chrono::duration<double>(duration).count();
+}
+
+// Runs the stages of the road in this process and prints a row per stage.
+// The stage timing prints of the library go to the sink as it keeps them.
+void printStageTable(std::string const& deck, double megabytes) {
+    std::printf("%-18s %9s %9s %9s\n", "stage", "seconds", "MB/s", "peak MB");
+    inp_InputFile input;
+    input.SetIncludePath(cow_String(std::filesystem::path(deck).parent_path().c_str()));
+    inp_StageInfo const& last = inp_InputFile::Stages().back();
+    Clock::time_point start = Clock::now();
+    Clock::time_point const roadStart = start;
+    input.Run(cow_String(deck.c_str()), last.stage, inp_InputFile::RunRule::RunThrough,
+              [&](inp_Stage stage) {
+                  Clock::time_point const now = Clock::now();
+                  double const taken = seconds(now - start);
+                  std::printf("%-18s %9.3f %9.0f %9.0f\n",
+                              inp_InputFile::Stages()[static_cast<size_t>(stage)].name, taken,
+                              taken > 0 ? megabytes / taken : 0.0, peakMegabytesOfSelf());
+                  std::fflush(stdout);
+                  start = Clock::now();
+              });
+    double const total = seconds(Clock::now() - roadStart);
+    std::printf("%-18s %9.3f %9.0f %9.0f\n", "whole road", total, megabytes / total,
+                peakMegabytesOfSelf());
+    wip_WIP const& sink = thr_ThreadSingleton<wip_WIP>::Instance();
+    std::printf("(%d errors, %d warnings in the deck)\n", sink.ErrorCount(),
+                static_cast<int>(sink.Diagnostics().size()) - sink.ErrorCount());
+}
+
+// One table per deck, each in a child process of its own: the peak memory
+// is that deck's alone.
+void printStageTableInChild(std::string const& deck, double megabytes) {
+    std::fflush(stdout);
+    pid_t const child = fork();
+    if (child == 0) {
+        printStageTable(deck, megabytes);
+        std::fflush(stdout);
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+}
+
+struct ProcessRun {
+    double seconds = 0;
+    double peakMegabytes = 0;
+};
+
+// Runs `arguments` with its output discarded; wall time from fork to exit.
+ProcessRun runProcess(std::vector<std::string> const& arguments) {
+    Clock::time_point const start = Clock::now();
+    pid_t const child = fork();
+    if (child == 0) {
+        std::vector<char*> argv;
+        for (std::string const& argument : arguments)
+            argv.push_back(const_cast<char*>(argument.c_str()));
+        argv.push_back(nullptr);
+        if (std::freopen("/dev/null", "w", stdout) == nullptr) _exit(127);
+        execv(argv[0], argv.data());
+        _exit(127);
+    }
+    int status = 0;
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    ProcessRun run;
+    run.seconds = seconds(Clock::now() - start);
+    run.peakMegabytes = usage.ru_maxrss / 1024.0;
+    if (!WIFEXITED(status) || WEXITSTATUS(status) == 127)
+        std::fprintf(stderr, "road_table: %s did not run\n", arguments[0].c_str());
+    return run;
+}
+
+// The median time of `runs` runs, and the largest peak among them.
+ProcessRun medianOf(int runs, std::vector<std::string> const& arguments) {
+    std::vector<double> times;
+    ProcessRun result;
+    for (int i = 0; i < runs; ++i) {
+        ProcessRun const run = runProcess(arguments);
+        times.push_back(run.seconds);
+        result.peakMegabytes = std::max(result.peakMegabytes, run.peakMegabytes);
+    }
+    std::sort(times.begin(), times.end());
+    result.seconds = times[times.size() / 2];
+    return result;
+}
+
+void printProcessComparison(Options const& options, std::string const& deck, double megabytes) {
+    if (options.fedeck.empty()) return;
+    ProcessRun const road = medianOf(options.runs, {options.fedeck, "check", "--json", deck});
+    std::printf("fedeck check --json, median of %d: %.3f s, %.0f MB/s, peak %.0f MB (%.2fx deck)\n",
+                options.runs, road.seconds, megabytes / road.seconds, road.peakMegabytes,
+                road.peakMegabytes / megabytes);
+    if (options.floor.empty()) return;
+    ProcessRun const floor = medianOf(options.runs, {options.floor, deck});
+    std::printf("floor, median of %d:               %.3f s, %.0f MB/s, peak %.0f MB\n",
+                options.runs, floor.seconds, megabytes / floor.seconds, floor.peakMegabytes);
+    std::printf("whole road / floor: %.2f\n", road.seconds / floor.seconds);
+}
+
+int usage() {
+    std::fprintf(stderr, "usage: road_table [--runs N] [--fedeck PROGRAM] [--floor PROGRAM] "
+                         "DECK...\n");
+    return 2;
+}
+
+bool readOptions(int argc, char** argv, Options& options) {
+    for (int i = 1; i < argc; ++i) {
+        std::string const argument = argv[i];
+        bool const hasValue = i + 1 < argc;
+        if (argument == "--runs" && hasValue)
+            options.runs = std::max(1, std::atoi(argv[++i]));
+        else if (argument == "--fedeck" && hasValue)
+            options.fedeck = argv[++i];
+        else if (argument == "--floor" && hasValue)
+            options.floor = argv[++i];
+        else if (!argument.empty() && argument[0] == '-')
+            return false;
+        else
+            options.decks.push_back(argument);
+    }
+    return !options.decks.empty();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Options options;
+    if (!readOptions(argc, argv, options)) return usage();
+    for (std::string const& deck : options.decks) {
+        std::error_code error;
+        auto const bytes = std::filesystem::file_size(deck, error);
+        if (error) {
+            std::fprintf(stderr, "road_table: cannot read %s\n", deck.c_str());
+            return 1;
+        }
+        double const megabytes = static_cast<double>(bytes) / 1e6;
+        std::printf("\n== %s (%.1f MB)\n", deck.c_str(), megabytes);
+        printStageTableInChild(deck, megabytes);
+        printProcessComparison(options, deck, megabytes);
+    }
+    return 0;
+}
