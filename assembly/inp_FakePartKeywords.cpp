@@ -404,11 +404,16 @@ cow_List<inp_Keyword> inp_FakePartVisitor::ElementKeywordsOfPart(cow_String cons
         inp_Keyword header{cow_String("element")};
         header.SetParameter("type", inp_Item(type));
         bool const withData = writesDataOf(type);
+        bool const superelement = type.View().starts_with("Z");
+        if (!withData && !superelement) {  // the header alone: the maps hold the elements
+            keywords.Append(header);
+            continue;
+        }
         std::vector<int> nodes;
         for (inp_MapInt2ElementSIT it(elements); it.NotDone(); it.Next()) {
             inp_Element const& element = it.CurrentValue();
             if (element.type() != type) continue;
-            if (type.View().starts_with("Z") && !header.HasParameter("file"))
+            if (superelement && !header.HasParameter("file"))
                 header.SetParameter("file", inp_Item(element.file()));
             if (!withData) continue;
             std::string line = std::to_string(it.CurrentKey());

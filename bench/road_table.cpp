@@ -47,6 +47,15 @@ double seconds(Clock::duration duration) {
     return std::chrono::duration<double>(duration).count();
 }
 
+// A stage that takes under a millisecond has no throughput worth a number.
+void printRow(char const* stage, double taken, double megabytes) {
+    if (taken < 1e-3)
+        std::printf("%-18s %9.3f %9s %9.0f\n", stage, taken, "-", peakMegabytesOfSelf());
+    else
+        std::printf("%-18s %9.3f %9.0f %9.0f\n", stage, taken, megabytes / taken,
+                    peakMegabytesOfSelf());
+}
+
 // Runs the stages of the road in this process and prints a row per stage.
 // The stage timing prints of the library go to the sink as it keeps them.
 void printStageTable(std::string const& deck, double megabytes) {
@@ -60,15 +69,12 @@ void printStageTable(std::string const& deck, double megabytes) {
               [&](inp_Stage stage) {
                   Clock::time_point const now = Clock::now();
                   double const taken = seconds(now - start);
-                  std::printf("%-18s %9.3f %9.0f %9.0f\n",
-                              inp_InputFile::Stages()[static_cast<size_t>(stage)].name, taken,
-                              taken > 0 ? megabytes / taken : 0.0, peakMegabytesOfSelf());
+                  printRow(inp_InputFile::Stages()[static_cast<size_t>(stage)].name, taken,
+                           megabytes);
                   std::fflush(stdout);
                   start = Clock::now();
               });
-    double const total = seconds(Clock::now() - roadStart);
-    std::printf("%-18s %9.3f %9.0f %9.0f\n", "whole road", total, megabytes / total,
-                peakMegabytesOfSelf());
+    printRow("whole road", seconds(Clock::now() - roadStart), megabytes);
     wip_WIP const& sink = thr_ThreadSingleton<wip_WIP>::Instance();
     std::printf("(%d errors, %d warnings in the deck)\n", sink.ErrorCount(),
                 static_cast<int>(sink.Diagnostics().size()) - sink.ErrorCount());
@@ -95,6 +101,7 @@ struct ProcessRun {
 
 // Runs `arguments` with its output discarded; wall time from fork to exit.
 ProcessRun runProcess(std::vector<std::string> const& arguments) {
+    std::fflush(stdout);  // or the child's freopen writes what is pending once more
     Clock::time_point const start = Clock::now();
     pid_t const child = fork();
     if (child == 0) {
@@ -145,8 +152,9 @@ void printProcessComparison(Options const& options, std::string const& deck, dou
 }
 
 int usage() {
-    std::fprintf(stderr, "usage: road_table [--runs N] [--fedeck PROGRAM] [--floor PROGRAM] "
-                         "DECK...\n");
+    std::fprintf(stderr,
+                 "usage: road_table [--runs N] [--fedeck PROGRAM] [--floor PROGRAM] "
+                 "DECK...\n");
     return 2;
 }
 

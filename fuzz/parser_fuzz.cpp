@@ -124,6 +124,7 @@ void runTheRoad(ScratchDirectory const& files) {
     RunFakePartStages(input);
     input.Reorganize();
     RunExtractionStages(input);
+    RunContinuationJob(input, input);
     cow_List<inp_Keyword> const& tree = input.Keywords();
     std::size_t cells = walk(tree) + made;
     for (inp_Keyword const& keyword : tree) cells += walk(keyword.Suboptions());

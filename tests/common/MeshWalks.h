@@ -5,6 +5,8 @@
 // For tests and the fuzz target that must see every mesh walk go over any
 // deck without a fault; the diagnostics go to the thread's sink.
 
+#include "continuation/inp_RestartSetVisitor.h"
+#include "continuation/inp_RestartSurfaceVisitor.h"
 #include "mesh/inp_ElementVisitor.h"
 #include "mesh/inp_NodeGenerationVisitor.h"
 #include "mesh/inp_NodeVisitor.h"
@@ -34,6 +36,30 @@ inline int RunMeshWalks(cow_List<inp_Keyword>& keywords) {
     return made;
 }
 
+// `expanded` as a job that continues `earlier`: the earlier part map taken,
+// then the sets and surfaces of a restart read against its names.
+inline void RunContinuationJob(inp_InputFile const& expanded, inp_InputFile const& earlier) {
+    inp_InputFile later = expanded;
+    inpM_PartMap partMap = earlier.MakePartMap();
+    later.InheritPartMap(partMap, false);
+    cow_String const assembly("Assembly-1");
+    bool const parts = partMap.FeatureEnhanced();
+    inp_RestartSetVisitor nodeSets(inp_RestartSetVisitor::Kind::NodeSets, partMap.ConstGetNsets(),
+                                   assembly, parts, partMap.ConstGetNodeIdMap());
+    nodeSets.setInstancePartNames(partMap.ConstGetInstancePartNames());
+    nodeSets.VisitList(later.GetKeywords());
+    inp_RestartSetVisitor elementSets(inp_RestartSetVisitor::Kind::ElementSets,
+                                      partMap.ConstGetElsets(), assembly, parts,
+                                      partMap.ConstGetElemIdMap());
+    elementSets.VisitList(later.GetKeywords());
+    inp_RestartSurfaceVisitor surfaces(partMap.ConstGetSurfaceMap(), assembly, parts,
+                                       nodeSets.NewSets(), elementSets.NewSets(),
+                                       earlier.AssemblyElementMap());
+    surfaces.VisitList(later.GetKeywords());
+    later.AddRestartSetsAndSurfaces(nodeSets.NewSets(), elementSets.NewSets(),
+                                    surfaces.NewSurfaces());
+}
+
 // The fake part of each reader (the solver's, the pre-processor's, the
 // converter's) over a copy of an expanded flat list, then the stages that
 // follow it on the road, whatever the deck is made of.
@@ -46,6 +72,7 @@ inline void RunFakePartStages(inp_InputFile const& expanded) {
         input.Reorganize();
         input.ExtractAssemblyMaps(reader == 1);
         input.CheckOutOfPlace();
+        if (reader == 0) RunContinuationJob(expanded, input);
     }
 }
 

@@ -207,3 +207,27 @@ TEST(DeckWriterRoundTrip, CompactDataOfAPartKeepsItsRowsAndNumbers) {
         << written;
     expectShortLines(written);
 }
+
+// Every deck of the repository, whatever its errors, goes the whole road of
+// a new job and the converter's road without a fault (the sanitizer build
+// runs this too), and most of them come through clean.
+TEST(DeckWriterRoundTrip, DecksOfTheRepositoryGoTheWholeRoad) {
+    int clean = 0;
+    for (fs::path const& deck : decksOfTheRepository()) {
+        cow_String const path(deck.string().c_str());
+        cow_String const directory(deck.parent_path().c_str());
+        sink().Clear();
+        inp_InputFile input;
+        input.SetIncludePath(directory);
+        input.Run(path, inp_Stage::OutOfPlace, inp_InputFile::RunRule::RunThrough);
+        if (!sink().HasErrors()) ++clean;
+
+        inp_InputFile converted;
+        converted.SetIncludePath(directory);
+        converted.Run(path, inp_Stage::ModelParameters, inp_InputFile::RunRule::RunThrough);
+        converted.SetInOdbConverter(true);
+        converted.ReorganizeKeywords(false);
+    }
+    sink().Clear();
+    EXPECT_GE(clean, 8);  // the examples and the expansion corpus at least
+}

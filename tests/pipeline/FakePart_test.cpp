@@ -5,6 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cctype>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -426,4 +433,195 @@ MIXED, 1
         << diagnostics();
     EXPECT_TRUE(input.PartElsets().HasNestedSet("PART-1", "BARS"));
     EXPECT_FALSE(input.PartNsets().HasNestedSet("PART-1", "MIXED"));
+}
+
+// -- decks written by another mesher ------------------------------------------------------
+
+namespace {
+
+// What a mesher's deck says, read by the simplest reader that can: nodes,
+// elements by type, and node and element sets, names in upper case.
+struct MesherDeck {
+    struct Element {
+        std::string type;
+        std::vector<int> nodes;
+    };
+    std::map<int, std::array<double, 3>> nodes;
+    std::map<int, Element> elements;
+    std::map<std::string, std::set<int>> nodeSets;
+    std::map<std::string, std::set<int>> elementSets;
+};
+
+std::string upper(std::string text) {
+    for (char& c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return text;
+}
+
+std::vector<std::string> fields(std::string const& line) {
+    std::vector<std::string> items;
+    std::stringstream stream(line);
+    for (std::string item; std::getline(stream, item, ',');) {
+        item.erase(0, item.find_first_not_of(' '));
+        item.erase(item.find_last_not_of(" \r") + 1);
+        if (!item.empty()) items.push_back(item);
+    }
+    return items;
+}
+
+// The value of `name=` in a keyword line, in upper case.
+std::string parameter(std::string const& line, std::string const& name) {
+    std::string const text = upper(line);
+    size_t const at = text.find(name + "=");
+    if (at == std::string::npos) return std::string();
+    size_t const start = at + name.size() + 1;
+    return fields(text.substr(start)).front();
+}
+
+MesherDeck readMesherDeck(std::string const& path) {
+    MesherDeck deck;
+    std::ifstream in(path);
+    std::string keyword, type, set;
+    for (std::string line; std::getline(in, line);) {
+        // An element's line that ends in a comma goes on on the next.
+        while (keyword == "*ELEMENT" && line.find_last_not_of(" \r") != std::string::npos &&
+               line[line.find_last_not_of(" \r")] == ',') {
+            std::string next;
+            if (!std::getline(in, next)) break;
+            line += next;
+        }
+        if (line.rfind("**", 0) == 0) continue;
+        if (line.rfind("*", 0) == 0) {
+            keyword = upper(fields(line).front());
+            type = parameter(line, "TYPE");
+            set = keyword == "*NSET" ? parameter(line, "NSET") : parameter(line, "ELSET");
+            continue;
+        }
+        std::vector<std::string> const items = fields(line);
+        if (items.empty()) continue;
+        if (keyword == "*NODE") {
+            deck.nodes[std::stoi(items[0])] = {std::stod(items[1]), std::stod(items[2]),
+                                               std::stod(items[3])};
+        } else if (keyword == "*ELEMENT") {
+            MesherDeck::Element& element = deck.elements[std::stoi(items[0])];
+            element.type = type;
+            for (size_t i = 1; i < items.size(); ++i) element.nodes.push_back(std::stoi(items[i]));
+            if (!set.empty()) deck.elementSets[set].insert(std::stoi(items[0]));
+        } else if (keyword == "*NSET" || keyword == "*ELSET") {
+            auto& sets = keyword == "*NSET" ? deck.nodeSets : deck.elementSets;
+            for (std::string const& item : items) sets[set].insert(std::stoi(item));
+        }
+    }
+    return deck;
+}
+
+std::set<int> idsOf(inpM_SetMap const& sets, char const* level, std::string const& name) {
+    cow_String const setName(name.c_str());
+    if (!sets.HasNestedSet(cow_String(level), setName)) return {};
+    cow_List<int> const ids = sets.ConstGetNestedSet(cow_String(level), setName)->ConstGetIdList();
+    return std::set<int>(ids.begin(), ids.end());
+}
+
+struct MesherCase {
+    char const* name;
+    char const* geometry;
+    int dimension;
+};
+
+// A unit square or cube, meshed as each case asks; the physical groups
+// become sets of elements and of nodes.
+constexpr char kSquare[] = R"(Point(1) = {0, 0, 0}; Point(2) = {2, 0, 0};
+Point(3) = {2, 1, 0}; Point(4) = {0, 1, 0};
+Line(1) = {1, 2}; Line(2) = {2, 3}; Line(3) = {3, 4}; Line(4) = {4, 1};
+Curve Loop(1) = {1, 2, 3, 4}; Plane Surface(1) = {1};
+Mesh.SaveGroupsOfNodes = 1;
+)";
+
+std::vector<MesherCase> mesherCases() {
+    static std::string const triangles = std::string(kSquare) +
+                                         "Mesh.CharacteristicLengthMax = 0.3;\n"
+                                         "Physical Surface(\"PLATE\") = {1};\n"
+                                         "Physical Curve(\"EDGE\") = {4};\n";
+    static std::string const quadrilaterals =
+        std::string(kSquare) +
+        "Transfinite Curve {1, 3} = 5; Transfinite Curve {2, 4} = 3;\n"
+        "Transfinite Surface {1}; Recombine Surface {1};\n"
+        "Physical Surface(\"PLATE\") = {1};\nPhysical Curve(\"EDGE\") = {4};\n";
+    static std::string const tetrahedra =
+        "SetFactory(\"OpenCASCADE\");\nBox(1) = {0, 0, 0, 1, 1, 1};\n"
+        "Mesh.CharacteristicLengthMax = 0.5;\n"
+        "Physical Volume(\"SOLID\") = {1};\n"
+        "Physical Surface(\"BOTTOM\") = {5};\n"
+        "Mesh.SaveGroupsOfNodes = 1;\n";
+    static std::string const hexahedra =
+        std::string(kSquare) +
+        "Transfinite Curve {1, 2, 3, 4} = 4; Transfinite Surface {1}; Recombine Surface {1};\n"
+        "out[] = Extrude {0, 0, 1} { Surface{1}; Layers{3}; Recombine; };\n"
+        "Physical Volume(\"BLOCK\") = {out[1]};\nPhysical Surface(\"BASE\") = {1};\n";
+    static std::string const prisms =
+        std::string(kSquare) +
+        "Mesh.CharacteristicLengthMax = 0.4;\n"
+        "out[] = Extrude {0, 0, 1} { Surface{1}; Layers{2}; Recombine; };\n"
+        "Physical Volume(\"WEDGES\") = {out[1]};\n"
+        "Physical Surface(\"BASE\") = {1};\n";
+    return {{"triangles", triangles.c_str(), 2},
+            {"quadrilaterals", quadrilaterals.c_str(), 2},
+            {"tetrahedra", tetrahedra.c_str(), 3},
+            {"hexahedra", hexahedra.c_str(), 3},
+            {"prisms", prisms.c_str(), 3}};
+}
+
+bool mesherIsPresent() {
+    return std::system("gmsh --version > /dev/null 2>&1") == 0;
+}
+
+}  // namespace
+
+// Decks that no one here wrote: each element family of the mesher, first and
+// second order, through the whole road, compared with the deck node for node,
+// element for element and set for set.
+TEST_F(FakePart, DecksOfAnotherMesherGiveTheirModelExactly) {
+    if (!mesherIsPresent()) GTEST_SKIP() << "gmsh is not installed";
+    for (MesherCase const& mesh : mesherCases()) {
+        for (int order : {1, 2}) {
+            SCOPED_TRACE(std::string(mesh.name) + " of order " + std::to_string(order));
+            std::string const geometry(dir.Write("mesh.geo", mesh.geometry).View());
+            std::string const deckPath = geometry.substr(0, geometry.size() - 4) + ".inp";
+            std::string const command = "gmsh -" + std::to_string(mesh.dimension) + " -order " +
+                                        std::to_string(order) +
+                                        " -setnumber Mesh.SecondOrderIncomplete 1 " + geometry +
+                                        " -format inp -o " + deckPath + " > /dev/null 2>&1";
+            ASSERT_EQ(std::system(command.c_str()), 0) << command;
+            MesherDeck const deck = readMesherDeck(deckPath);
+            ASSERT_FALSE(deck.elements.empty());
+
+            sink().Clear();
+            input = inp_InputFile();
+            input.Run(cow_String(deckPath.c_str()), inp_Stage::OutOfPlace);
+            ASSERT_FALSE(sink().HasErrors()) << sink().Diagnostics().front().text.View();
+
+            inp_CoordMap const& nodes = input.PartCoordMap().ConstGet("PART-1");
+            EXPECT_EQ(nodes.ConstGet().Size(), static_cast<int>(deck.nodes.size()));
+            for (auto const& [label, xyz] : deck.nodes) {
+                ASSERT_TRUE(nodes.IsMember(label)) << label;
+                inp_Coord const node = nodes.ConstGet(label);
+                std::array<double, 3> const stored = {node.x, node.y, node.z};
+                EXPECT_EQ(stored, xyz) << label;
+            }
+            inp_MapInt2Element const& elements = input.AssemblyElementMap().ConstGet("PART-1-1");
+            EXPECT_EQ(elements.Size(), static_cast<int>(deck.elements.size()));
+            for (auto const& [label, expected] : deck.elements) {
+                ASSERT_TRUE(elements.IsMember(label)) << label;
+                inp_Element const& element = elements.ConstGet(label);
+                EXPECT_EQ(std::string(element.type().View()), expected.type) << label;
+                EXPECT_EQ(std::vector<int>(element.nodes(),
+                                           element.nodes() + element.numNodesPerElement()),
+                          expected.nodes)
+                    << label;
+            }
+            for (auto const& [name, ids] : deck.nodeSets)
+                EXPECT_EQ(idsOf(input.PartNsets(), "PART-1", name), ids) << name;
+            for (auto const& [name, ids] : deck.elementSets)
+                EXPECT_EQ(idsOf(input.PartElsets(), "PART-1", name), ids) << name;
+        }
+    }
 }
