@@ -128,6 +128,12 @@ void inp_RestartSetVisitor::readPartsModelSet(inp_Keyword& keyword, cow_String c
                          "INSTANCE parameter should not appear.")));
         return;
     }
+    if (!isOriginalInstance(pieces.ConstGet(1))) {
+        AddError(inp_Utils::MessageInKeyword(
+            keyword,
+            atr("%1$s is not a part instance of the original analysis.", pieces.ConstGet(1))));
+        return;
+    }
     // The part readers read inside a scope: the instance, for this keyword.
     m_instanceName = pieces.ConstGet(1);
     inpM_SetHandle const set = generate ? GenerateSet(keyword.Data(), internal, false)
@@ -251,6 +257,12 @@ cow_String inp_RestartSetVisitor::FindOwningInstance(inpM_SetMap const& sets,
     for (cow_String const& instance : sets.Instances())
         if (sets.HasNestedSet(instance, name)) return instance;
     return cow_String();
+}
+
+// Known when the instances of the earlier model were given, or when its
+// sets have a level for it.
+bool inp_RestartSetVisitor::isOriginalInstance(cow_String const& instance) const {
+    return m_instancePartNames.IsMember(instance) || m_oldSets.HasInstance(instance);
 }
 
 cow_String inp_RestartSetVisitor::instanceOfKey(cow_String const& key) const {

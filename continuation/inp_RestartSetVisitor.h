@@ -64,6 +64,7 @@ class inp_RestartSetVisitor : public inp_SetVisitor {
                            bool internal);
     void readFlatModelSet(inp_Keyword& keyword, cow_String const& name, bool generate,
                           bool internal);
+    bool isOriginalInstance(cow_String const& instance) const;
     // The instance an id-map key stands for (see setInstancePartNames).
     cow_String instanceOfKey(cow_String const& key) const;
 

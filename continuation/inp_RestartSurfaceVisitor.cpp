@@ -83,6 +83,13 @@ bool inp_RestartSurfaceVisitor::mayAdd(inp_Keyword const& keyword, cow_String co
             atr("%1$s is not the assembly name in the original analysis.", pieces.ConstGet(0))));
         return false;
     }
+    if (pieces.Length() == 3 && !m_instancePartNames.IsMember(pieces.ConstGet(1)) &&
+        !m_oldSurfaces.HasInstanceInPartInstanceSurfaceMap(pieces.ConstGet(1))) {
+        AddError(inp_Utils::MessageInKeyword(
+            keyword,
+            atr("%1$s is not a part instance of the original analysis.", pieces.ConstGet(1))));
+        return false;
+    }
     return true;
 }
 

@@ -197,6 +197,18 @@ std::vector<std::string> validityOf(cow_List<inp_Keyword>& keywords) {
     return texts;
 }
 
+// The same with the checks made after the walk, as the visitor reports them.
+std::vector<std::string> reportedValidityOf(cow_List<inp_Keyword>& keywords) {
+    sink().Clear();
+    inp_ImportValidityVisitor visitor;
+    visitor.VisitListAndReport(keywords);
+    std::vector<std::string> texts;
+    for (wip_Diagnostic const& diagnostic : sink().Diagnostics())
+        texts.emplace_back(diagnostic.text.View());
+    sink().Clear();
+    return texts;
+}
+
 bool mentions(std::vector<std::string> const& texts, std::string const& piece) {
     for (std::string const& text : texts)
         if (text.find(piece) != std::string::npos) return true;
@@ -465,6 +477,7 @@ class RestartSets : public ContinuedJobs {
         inp_RestartSurfaceVisitor surfaces(
             partMap.ConstGetSurfaceMap(), cow_String(assembly), partMap.FeatureEnhanced(), nodeSets,
             partMap.ConstGetElsets(), inpM_InstanceMap<inp_MapInt2Element>());
+        surfaces.setInstancePartNames(partMap.ConstGetInstancePartNames());
         surfaces.VisitList(job.GetKeywords());
         result.errors = std::string(nodes.Errors().View()) + std::string(surfaces.Errors().View());
         result.nodeSets = nodes.NewSets();
@@ -543,7 +556,68 @@ TIP
           "B is not the assembly name in the original analysis.",
           "The GENERATE option on *NSET/*ELSET is not supported when defining an assembly level "
           "set",
-          "the set A.OLD already exists in the original analysis"})
+          "Error in *NSET/*ELSET: the set A.OLD already exists in the original analysis. It "
+          "cannot be modified upon restart."})
         EXPECT_NE(read.errors.find(expected), std::string::npos) << expected << "\n" << read.errors;
     EXPECT_TRUE(read.surfaces.IsMemberAssemblyInstanceSurface(cow_String("SIDE")));
+}
+
+// What excludes an import, each reported in its own words.
+TEST(ImportValidity, FeaturesThatExcludeAnImportAreEachReported) {
+    cow_List<inp_Keyword> part = InlineDeck(
+        "*ASSEMBLY, NAME=A\n*INSTANCE, NAME=I, INSTANCE=I, PART=P, LIBRARY=OLD\n*IMPORT\n"
+        "*END INSTANCE\n");
+    EXPECT_TRUE(mentions(validityOf(part), "*INSTANCE cannot import a PART component."));
+    cow_List<inp_Keyword> both = InlineDeck(
+        "*IMPORT\n*ASSEMBLY, NAME=A\n*INSTANCE, NAME=I, INSTANCE=I, LIBRARY=OLD\n*IMPORT\n"
+        "*END INSTANCE\n*END ASSEMBLY\n*MAP SOLUTION\n");
+    std::vector<std::string> const texts = reportedValidityOf(both);
+    EXPECT_TRUE(mentions(texts,
+                         "*IMPORT cannot be used in the new import procedure keyword "
+                         "interface."));
+    EXPECT_TRUE(mentions(texts,
+                         "*MAP SOLUTION (rezoning) cannot be used in the import "
+                         "procedure."));
+    cow_List<inp_Keyword> noLibrary =
+        InlineDeck("*ASSEMBLY, NAME=A\n*INSTANCE, NAME=I, INSTANCE=I\n*IMPORT\n*END INSTANCE\n");
+    EXPECT_TRUE(mentions(validityOf(noLibrary), "*INSTANCE cannot import a PART component."));
+    EXPECT_TRUE(mentions(reportedValidityOf(noLibrary),
+                         "LIBRARY parameter or oldjob command line "
+                         "parameter must be defined when importing "
+                         "components."));
+}
+
+// Names the earlier model never had, and no earlier model at all: each is
+// said, nothing breaks.
+TEST_F(RestartSets, NamesTheEarlierModelNeverHadAreReported) {
+    RestartReading const read = this->read(kPartsModel, R"(*NSET, NSET=A.GHOST.S
+1
+*NSET, NSET=A.I.S
+99, NOSUCH
+*SURFACE, NAME=A.GHOST.F, TYPE=NODE
+S
+)",
+                                           "A");
+    EXPECT_FALSE(read.nodeSets.HasInstance(cow_String("GHOST")));
+    for (char const* expected :
+         {"GHOST is not a part instance of the original analysis.", "NOSUCH"})
+        EXPECT_NE(read.errors.find(expected), std::string::npos) << expected << "\n" << read.errors;
+
+    sink().Clear();
+    continueFrom(finish(kFlatModel), "*IMPORT, STEP=1, UPDATE=NO\nNOSUCH\n*IMPORT NSET\nTIP\n");
+    EXPECT_NE(diagnostics().find("The set NOSUCH to be imported does not exist in the original "
+                                 "analysis."),
+              std::string::npos)
+        << diagnostics();
+
+    inp_InputFile fresh;
+    inpM_PartMap none;
+    fresh.Run(dir.Write("alone.inp", "*NSET, NSET=N\n1\n*STEP\n*STATIC\n*END STEP\n"),
+              inp_Stage::Expand);
+    fresh.InheritPartMap(none, false);
+    inp_RestartSetVisitor sets(inp_RestartSetVisitor::Kind::NodeSets, none.ConstGetNsets(),
+                               cow_String("Assembly-1"), false, none.ConstGetNodeIdMap());
+    sets.VisitList(fresh.GetKeywords());
+    EXPECT_NE(std::string(sets.Errors().View()).find("The following sets/IDs do not exist"),
+              std::string::npos);
 }

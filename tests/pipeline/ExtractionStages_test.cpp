@@ -213,6 +213,12 @@ TEST_F(ExtractionStages, ClassifyReadsEitherKindOfDeckToItsMaps) {
     EXPECT_NE(diagnostics().find("An import analysis requires the part map"), std::string::npos);
     EXPECT_TRUE(flat.IsFakePartModel());
     EXPECT_TRUE(flat.AssemblyElementMap().IsMember("PART-1-1"));
+    // The pre-processor reads an import without the part map.
+    inp_InputFile atelier;
+    run(atelier, "*NODE\n1, 0., 0., 0.\n*IMPORT\nS\n", inp_Stage::Expand);
+    sink().Clear();
+    atelier.Classify(true);
+    EXPECT_EQ(diagnostics().find("An import analysis requires the part map"), std::string::npos);
 
     inp_InputFile converted;
     run(converted, "*NODE\n1, 0., 0., 0.\n", inp_Stage::Expand);
