@@ -36,11 +36,17 @@ struct Options {
     std::vector<std::string> decks;
 };
 
+// ru_maxrss counts kibibytes; every size here is in MB of 10^6 bytes, the
+// deck's as well, so that the ratios are of like units.
+double megabytesOfKibibytes(long kibibytes) {
+    return static_cast<double>(kibibytes) * 1024.0 / 1e6;
+}
+
 // The peak resident set of this process so far, in MB.
 double peakMegabytesOfSelf() {
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss / 1024.0;
+    return megabytesOfKibibytes(usage.ru_maxrss);
 }
 
 double seconds(Clock::duration duration) {
@@ -118,7 +124,7 @@ ProcessRun runProcess(std::vector<std::string> const& arguments) {
     wait4(child, &status, 0, &usage);
     ProcessRun run;
     run.seconds = seconds(Clock::now() - start);
-    run.peakMegabytes = usage.ru_maxrss / 1024.0;
+    run.peakMegabytes = megabytesOfKibibytes(usage.ru_maxrss);
     if (!WIFEXITED(status) || WEXITSTATUS(status) == 127)
         std::fprintf(stderr, "road_table: %s did not run\n", arguments[0].c_str());
     return run;

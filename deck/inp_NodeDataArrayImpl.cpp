@@ -193,14 +193,15 @@ class NodeRowConverter {
   public:
     explicit NodeRowConverter(inp_DataArray const& raw) : m_raw(raw), m_items(raw) {}
 
-    // Fills the label and the six doubles of row i.
-    void Convert(int i, int& label, double* doubles) {
+    // Fills the label and the `width` doubles of row i; the block's rows
+    // have at most 1 + width columns.
+    void Convert(int i, int& label, double* doubles, int width) {
         int columns = m_raw.Cols(i);
-        int used = std::min(columns, inp_NodeDataArrayImpl::kColumns);
+        int used = std::min(columns, 1 + width);
         label = labelOf(m_items.First(i), columns, i);
         int j = 1;
         for (; j < used; ++j) doubles[j - 1] = coordinateOf(m_items.Next(), label);
-        for (; j < inp_NodeDataArrayImpl::kColumns; ++j) doubles[j - 1] = 0.0;
+        for (; j <= width; ++j) doubles[j - 1] = 0.0;
     }
 
     void ThrowIfBadCoordinates() {
@@ -271,16 +272,16 @@ class NodeRowConverter {
 
 inp_NodeDataArrayImpl::inp_NodeDataArrayImpl(int size) {
     ZELBAS_ASSERT(size >= 0);
-    allocate(size, true);
+    allocate(size, true, kPositionDoubles);
 }
 
 inp_NodeDataArrayImpl::inp_NodeDataArrayImpl(inp_NodeDataArrayImpl const& other) {
-    allocate(other.allocatedSize, false);
+    allocate(other.allocatedSize, false, other.width);
     nrows = other.nrows;
     size_t size = static_cast<size_t>(allocatedSize);
     if (size == 0) return;
     std::memcpy(labels, other.labels, size * sizeof(int));
-    std::memcpy(coords, other.coords, size * kDoubles * sizeof(double));
+    std::memcpy(coords, other.coords, size * static_cast<size_t>(width) * sizeof(double));
 }
 
 inp_NodeDataArrayImpl& inp_NodeDataArrayImpl::operator=(inp_NodeDataArrayImpl const& other) {
@@ -308,12 +309,14 @@ inp_DataArrayImpl* inp_NodeDataArrayImpl::Copy() const {
     return new inp_NodeDataArrayImpl(*this);
 }
 
-void inp_NodeDataArrayImpl::allocate(int size, bool zeroed) {
+void inp_NodeDataArrayImpl::allocate(int size, bool zeroed, int rowWidth) {
     Clear();
+    width = rowWidth;
     if (size == 0) return;
     size_t rows = static_cast<size_t>(size);
+    size_t const doubles = rows * static_cast<size_t>(width);
     labels = static_cast<int*>(mem_Malloc(rows * sizeof(int)));
-    coords = static_cast<double*>(mem_Malloc(rows * kDoubles * sizeof(double)));
+    coords = static_cast<double*>(mem_Malloc(doubles * sizeof(double)));
     if (!labels || !coords) {
         Clear();
         throw inp_MemoryException();
@@ -321,7 +324,21 @@ void inp_NodeDataArrayImpl::allocate(int size, bool zeroed) {
     allocatedSize = size;
     if (!zeroed) return;
     std::memset(labels, 0, rows * sizeof(int));
-    std::memset(coords, 0, rows * kDoubles * sizeof(double));
+    std::memset(coords, 0, doubles * sizeof(double));
+}
+
+void inp_NodeDataArrayImpl::widen() {
+    size_t const rows = static_cast<size_t>(allocatedSize);
+    auto* wide =
+        static_cast<double*>(mem_Malloc(std::max<size_t>(rows, 1) * kDoubles * sizeof(double)));
+    if (!wide) throw inp_MemoryException();
+    for (size_t i = 0; i < rows; ++i) {
+        double* row = wide + i * kDoubles;
+        for (int j = 0; j < kDoubles; ++j) row[j] = j < width ? coords[i * width + j] : 0.0;
+    }
+    mem_Free(coords);
+    coords = wide;
+    width = kDoubles;
 }
 
 void inp_NodeDataArrayImpl::swap(inp_NodeDataArrayImpl& other) noexcept {
@@ -329,17 +346,21 @@ void inp_NodeDataArrayImpl::swap(inp_NodeDataArrayImpl& other) noexcept {
     std::swap(allocatedSize, other.allocatedSize);
     std::swap(labels, other.labels);
     std::swap(coords, other.coords);
+    std::swap(width, other.width);
 }
 
 // The conversion fills a new array and takes it over only at the end, so that
 // a bad block leaves this one as it was.
 void inp_NodeDataArrayImpl::SetRaw(inp_DataArray const& raw) {
     int rows = raw.Rows();
+    int rowWidth = kPositionDoubles;
+    for (int i = 0; i < rows && rowWidth == kPositionDoubles; ++i)
+        if (raw.Cols(i) > 1 + kPositionDoubles) rowWidth = kDoubles;
     inp_NodeDataArrayImpl converted;
-    converted.allocate(rows, false);
+    converted.allocate(rows, false, rowWidth);
     NodeRowConverter converter(raw);
     for (int i = 0; i < rows; ++i)
-        converter.Convert(i, converted.labels[i], converted.doublesOf(i));
+        converter.Convert(i, converted.labels[i], converted.doublesOf(i), rowWidth);
     converter.ThrowIfBadCoordinates();
     converted.nrows = rows;
     swap(converted);
@@ -382,13 +403,13 @@ int inp_NodeDataArrayImpl::AsInt(int i, int j) const {
 double inp_NodeDataArrayImpl::AsDouble(int i, int j) const {
     checkItem(i, j);
     if (j == 0) raise(atr("Node number cannot be converted to a double"));
-    return doublesOf(i)[j - 1];
+    return doubleAt(i, j - 1);
 }
 
 cow_String inp_NodeDataArrayImpl::AsString(int i, int j) {
     checkItem(i, j);
     if (j == 0) return cow_String::FromInt(labels[i]);
-    return cow_String::FromDouble(doublesOf(i)[j - 1]);
+    return cow_String::FromDouble(doubleAt(i, j - 1));
 }
 
 cow_String inp_NodeDataArrayImpl::AsStringVerbatim(int i, int j) {
@@ -402,6 +423,10 @@ inp_DataArrayImpl& inp_NodeDataArrayImpl::Set(int, int, cow_String const&) {
 inp_DataArrayImpl& inp_NodeDataArrayImpl::Set(int i, int j, double value) {
     checkItem(i, j);
     if (j == 0) raise(atr("Node number cannot be a double"));
+    if (j - 1 >= width) {
+        if (value == 0.0) return *this;  // what a narrow row reads there already
+        widen();
+    }
     doublesOf(i)[j - 1] = value;
     return *this;
 }

@@ -8,6 +8,10 @@
 // The rows are fixed once built: SetRaw converts a whole raw array, and the
 // size constructor prepares rows that Append(label, x, y, z) fills in turn.
 // Generic text lines can never be appended.
+//
+// Most decks give no normals: a block none of whose lines goes beyond Z keeps
+// three doubles a row, and its normals read as 0.0 all the same. Setting a
+// normal component other than 0.0 widens the rows to six doubles.
 
 #include "deck/inp_DataArray.h"
 #include "deck/inp_DataArrayImpl.h"
@@ -51,19 +55,26 @@ class inp_NodeDataArrayImpl : public inp_DataArrayImpl {
 
   private:
     static constexpr int kDoubles = kColumns - 1;
+    static constexpr int kPositionDoubles = 3;  // a row without a normal
 
-    // Allocates `size` rows, zeroed when `zeroed`; throws inp_MemoryException.
-    void allocate(int size, bool zeroed);
+    // Allocates `size` rows of `width` doubles, zeroed when `zeroed`; throws
+    // inp_MemoryException.
+    void allocate(int size, bool zeroed, int width);
+    // Makes the rows six doubles wide, the normals zero.
+    void widen();
     void swap(inp_NodeDataArrayImpl& other) noexcept;
     void checkRow(int i) const;
     void checkItem(int i, int j) const;
-    double* doublesOf(int i) const { return coords + static_cast<size_t>(i) * kDoubles; }
+    double* doublesOf(int i) const { return coords + static_cast<size_t>(i) * width; }
+    // Double j of row i (0 for X), 0.0 beyond the row's width.
+    double doubleAt(int i, int j) const { return j < width ? doublesOf(i)[j] : 0.0; }
 
     int nrows = 0;          // rows in use
     int allocatedSize = 0;  // rows allocated
     int* labels = nullptr;  // one node label per row
-    // Six doubles per row, the rows one after the other in a single block: every
-    // way of filling the array knows its size first, so one allocation serves
-    // all rows and a row costs exactly its 48 bytes.
+    // `width` doubles per row, the rows one after the other in a single block:
+    // every way of filling the array knows its size first, so one allocation
+    // serves all rows and a row costs exactly its 24 or 48 bytes.
     double* coords = nullptr;
+    int width = kDoubles;
 };

@@ -61,6 +61,12 @@ inp_RawDataArrayImpl::inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other) {
     }
     allocatedSize = other.nrows;
     for (int i = 0; i < other.nrows; ++i) {
+        if (other.rows[i] == nullptr) {  // a released row
+            rows[i] = nullptr;
+            ncols[i] = 0;
+            nrows = i + 1;
+            continue;
+        }
         // A row block holds the line with zeros for commas: its size is the
         // position of the last item's terminator plus one.
         char const* last = other.Item(i, other.ncols[i] - 1);
@@ -78,6 +84,16 @@ inp_RawDataArrayImpl::~inp_RawDataArrayImpl() {
     for (int i = 0; i < nrows; ++i) mem_Free(rows[i]);
     mem_Free(rows);
     mem_Free(ncols);
+}
+
+void inp_RawDataArrayImpl::ReleaseRows(int first, int last) {
+    ZELBAS_ASSERT_TEXT(first >= 0 && first <= last && last <= nrows,
+                       "first >= 0 && first <= last && last <= nrows");
+    for (int i = first; i < last; ++i) {
+        mem_Free(rows[i]);
+        rows[i] = nullptr;
+        ncols[i] = 0;
+    }
 }
 
 inp_DataArrayImpl* inp_RawDataArrayImpl::Copy() const {

@@ -40,6 +40,11 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
 
     // The item's text as stored (after any in-place exponent rewrite).
     char const* Item(int i, int j) const;
+    // Frees the text of rows [first, last): they read as rows without items
+    // from then on. For a reader that has taken what those rows said and
+    // whose keyword's data go afterwards anyway: the memory comes free while
+    // the reader builds what replaces it.
+    void ReleaseRows(int first, int last);
 
   private:
     void growIfFull();

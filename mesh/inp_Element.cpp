@@ -12,6 +12,10 @@ bool fitsInt16(int value) {
     return value >= INT16_MIN && value <= INT16_MAX;
 }
 
+// Meshes hold millions of records: one of eight nodes stays within a
+// 72-byte request, an 80-byte heap block.
+static_assert(sizeof(inp_Element) <= 72, "an element record has grown");
+
 }  // namespace
 
 inp_Element::inp_Element(inp_Element const& other)
@@ -53,7 +57,12 @@ inp_Element::inp_Element(cow_String type, cow_List<int> const& nodes, int numNod
 inp_Element::inp_Element(cow_String type, cow_String file, cow_List<int> const& nodes,
                          int numNodesDefined)
     : inp_Element(std::move(type), nodes, numNodesDefined, 0, 0) {
-    m_file = std::move(file);
+    m_file = FileName(std::move(file));
+}
+
+cow_String const& inp_Element::FileName::Text() const noexcept {
+    static cow_String const none;
+    return m_text != nullptr ? *m_text : none;
 }
 
 inp_Element& inp_Element::operator=(inp_Element const& other) {
@@ -98,7 +107,7 @@ cow_List<int> inp_Element::NodeList() const {
 }
 
 bool operator==(inp_Element const& a, inp_Element const& b) noexcept {
-    return a.m_type == b.m_type && a.m_file == b.m_file &&
+    return a.m_type == b.m_type && a.file() == b.file() &&
            a.m_numNodesPerElement == b.m_numNodesPerElement &&
            a.m_solidElementNumbering == b.m_solidElementNumbering &&
            a.m_numNodesDefined == b.m_numNodesDefined && a.m_nodeOffset == b.m_nodeOffset &&

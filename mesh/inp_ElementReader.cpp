@@ -201,7 +201,13 @@ class inp_ElementVisitor::ElementKeywordReader {
         classify();
         m_table = &m_visitor.targetTable();
         m_labels.Reserve(m_rows.Count());  // at most one element per row
+        inp_RawDataArrayImpl* const consumed = consumableText();
+        int released = 0;
         for (int row = 0; row < m_rows.Count(); ++row) {
+            if (consumed != nullptr && row - released >= kReleaseBatch) {
+                consumed->ReleaseRows(released, row);
+                released = row;
+            }
             Outcome const outcome = readElement(row);
             if (outcome == Outcome::kEndKeyword) return;
             if (outcome == Outcome::kEndWalk) break;
@@ -210,6 +216,17 @@ class inp_ElementVisitor::ElementKeywordReader {
     }
 
   private:
+    // Rows of text freed at a time when the text is consumed: the rows
+    // before the one being read, which no message names any more.
+    static constexpr int kReleaseBatch = 4096;
+
+    // The keyword's text, when the visitor consumes it and nothing else
+    // holds it; null otherwise.
+    inp_RawDataArrayImpl* consumableText() const {
+        if (!m_visitor.m_consumeElementText || m_keyword.Data().UseCount() != 1) return nullptr;
+        return dynamic_cast<inp_RawDataArrayImpl*>(m_keyword.Data().Impl());
+    }
+
     // What a data line leaves for the rest of the keyword.
     enum class Outcome { kNext, kEndWalk, kEndKeyword };
     // What completing an element's connectivity decided.

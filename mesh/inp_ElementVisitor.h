@@ -47,6 +47,11 @@ class inp_ElementVisitor : public inp_SetVisitor {
     void setInstancePartNames(inpM_InstanceMap<cow_String> const& names) {
         m_instancePartNames = names;
     }
+    // For a caller that drops the *ELEMENT data lines once this walk has
+    // read them: each keyword's lines of text are freed as they are read,
+    // where this visitor's keyword is the only holder of its data, so that
+    // the text and the element table it becomes are not held whole at once.
+    void setConsumeElementText(bool consume) noexcept { m_consumeElementText = consume; }
     // *ELSET keywords of the assembly level whose reading failed: their
     // errors were withdrawn so that they can be read again once every
     // instance is known (ReadAssyElsetIdsAndSetNames).
@@ -106,6 +111,7 @@ class inp_ElementVisitor : public inp_SetVisitor {
     // Node count per user element type; -1 when it is not known (FILE).
     cow_Map<cow_String, int> m_userElementNodes;
     bool m_atelierCompatible = false;
+    bool m_consumeElementText = false;
 
   private:
     // -- *ELEMENT reading --

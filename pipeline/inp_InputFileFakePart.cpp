@@ -113,6 +113,7 @@ void inp_InputFile::FakeEnhancements(bool atelierCompatible) {
 
     inp_FakePartElementVisitor elements(m_assemblyElsets, generate);
     elements.setAtelierCompatible(atelierCompatible);
+    elements.setConsumeElementText(!atelierCompatible);  // released below in any case
     elements.VisitListAndReport(m_keywords);
     if (!atelierCompatible) releaseFlatMeshData(m_keywords, inp_kw_Element);
 

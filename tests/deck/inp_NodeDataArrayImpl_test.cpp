@@ -264,3 +264,25 @@ TEST(NodeCopy, CopiesAreIndependentAndKeepTheirRoom) {
     assigned.Clear();
     EXPECT_EQ(assigned.Rows(), 0);
 }
+
+// A block without normals keeps three doubles a row; the normals read as
+// zero all the same, and writing one widens every row without losing any.
+TEST(NodeWidth, ABlockWithoutNormalsWidensWhenANormalIsSet) {
+    inp_NodeDataArrayImpl nodes = nodesOf({"1, 1., 2., 3.", "2, 4., 5., 6."});
+    EXPECT_EQ(nodes.Cols(1), 7);
+    EXPECT_EQ(nodes.AsDouble(1, 6), 0.0);
+    EXPECT_EQ(nodes.AsString(1, 5), "0");
+    nodes.Set(0, 5, 0.0);  // what it reads already: nothing to widen
+    std::unique_ptr<inp_DataArrayImpl> const narrow(nodes.Copy());
+    nodes.Set(1, 6, 1.0);
+    EXPECT_EQ(nodes.AsDouble(1, 6), 1.0);
+    for (int row = 0; row < 2; ++row)
+        for (int j = 1; j <= 3; ++j) EXPECT_EQ(nodes.AsDouble(row, j), 3.0 * row + j);
+    EXPECT_EQ(nodes.AsDouble(0, 6), 0.0);
+    EXPECT_EQ(narrow->AsDouble(1, 6), 0.0);  // the copy kept its own rows
+    EXPECT_EQ(narrow->AsDouble(1, 3), 6.0);
+    // One line with a normal makes the block wide from the start.
+    inp_NodeDataArrayImpl const mixed = nodesOf({"1, 1., 2., 3.", "2, 4., 5., 6., 0., 0., 1."});
+    EXPECT_EQ(mixed.AsDouble(1, 6), 1.0);
+    EXPECT_EQ(mixed.AsDouble(0, 3), 3.0);
+}

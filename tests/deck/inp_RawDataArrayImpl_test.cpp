@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <memory>
 #include <random>
 #include <string>
 
@@ -183,4 +184,17 @@ TEST(RawDataCopy, CopyIsIndependent) {
     EXPECT_EQ(copy->AsString(1, 0), "\"a,b\"");
     EXPECT_TRUE(copy->HasRowContinuation(1));
     delete copy;
+}
+
+// Released rows read as rows without items; the others, and a copy, stay.
+TEST(RawDataRelease, ReleasedRowsLoseTheirItemsAndCopyAsSuch) {
+    inp_RawDataArrayImpl data = arrayOf({"1, 2", "3, 4", "5, 6"});
+    data.ReleaseRows(0, 2);
+    EXPECT_EQ(data.Rows(), 3);
+    EXPECT_EQ(data.Cols(0), 0);
+    EXPECT_EQ(data.Cols(1), 0);
+    EXPECT_EQ(data.AsInt(2, 1), 6);
+    std::unique_ptr<inp_DataArrayImpl> const copy(data.Copy());
+    EXPECT_EQ(copy->Cols(1), 0);
+    EXPECT_EQ(copy->AsInt(2, 0), 5);
 }

@@ -621,3 +621,21 @@ S
     EXPECT_NE(std::string(sets.Errors().View()).find("The following sets/IDs do not exist"),
               std::string::npos);
 }
+
+// A restart deck written in parts may add no mesh: the classification, which
+// reads the deck's own form, refuses it. A flat one may.
+TEST_F(ContinuedJobs, MeshAddedInPartsIsRefusedUponRestart) {
+    inpM_PartMap const partMap = finish(kFlatModel);
+    continueFrom(partMap, "*PART, NAME=P\n*NODE\n9, 0., 0.\n*END PART\n");
+    EXPECT_NE(diagnostics().find("are detected in a continuation analysis where the original "
+                                 "model is defined in terms of an assembly of part instances. "
+                                 "This is not allowed. "),
+              std::string::npos)
+        << diagnostics();
+    sink().Clear();
+    inp_InputFile flat;
+    flat.Run(dir.Write("flat.inp", "*ELEMENT, TYPE=CPS3\n12, 1, 2, 3\n"), inp_Stage::Expand);
+    inpM_PartMap copy = partMap;
+    flat.InheritPartMap(copy, false);
+    EXPECT_EQ(diagnostics().find("This is not allowed."), std::string::npos) << diagnostics();
+}

@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "assembly/inp_FakePartMeshVisitors.h"
 #include "assembly/inp_FakePartVisitor.h"
 #include "deck/inp_Item.h"
 #include "pipeline/inp_InputFile.h"
@@ -624,4 +625,35 @@ TEST_F(FakePart, DecksOfAnotherMesherGiveTheirModelExactly) {
                 EXPECT_EQ(idsOf(input.PartElsets(), "PART-1", name), ids) << name;
         }
     }
+}
+
+// The flat element lines go as the element walk reads them, once they are
+// the walk's alone; a deck that another holder shares keeps every line.
+TEST_F(FakePart, TheElementWalkConsumesOnlyLinesItHoldsAlone) {
+    std::string deck = "*NODE\n";
+    for (int node = 1; node <= 5001; ++node) deck += std::to_string(node) + ", 0., 0., 0.\n";
+    deck += "*ELEMENT, TYPE=T3D2\n";
+    for (int element = 1; element <= 5000; ++element)
+        deck += std::to_string(element) + ", " + std::to_string(element) + ", " +
+                std::to_string(element + 1) + "\n";
+    run(deck, Reader::Solver, inp_Stage::Expand);
+    int const elementKeyword = 1;
+    ASSERT_TRUE(input.Keywords().ConstGet(elementKeyword).Is(inp_kw_Element));
+
+    inp_InputFile const shared = input;  // shares the lines
+    inp_FakePartElementVisitor walk(inpM_SetMap(), true);
+    walk.setConsumeElementText(true);
+    walk.VisitList(input.GetKeywords());
+    EXPECT_EQ(shared.Keywords().ConstGet(elementKeyword).Data().Cols(0), 3);
+
+    inp_InputFile alone = shared;  // then given lines of its own
+    alone.GetKeywords()
+        .Get(elementKeyword)
+        .SetData(shared.Keywords().ConstGet(elementKeyword).Data().Copy());
+    inp_FakePartElementVisitor consuming(inpM_SetMap(), true);
+    consuming.setConsumeElementText(true);
+    consuming.VisitList(alone.GetKeywords());
+    EXPECT_EQ(alone.Keywords().ConstGet(elementKeyword).Data().Cols(0), 0);  // read and freed
+    EXPECT_EQ(shared.Keywords().ConstGet(elementKeyword).Data().Cols(0), 3);
+    EXPECT_EQ(consuming.ConstGetElementMap().ConstGet("FAKE").Size(), 5000);
 }
