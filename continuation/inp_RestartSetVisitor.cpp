@@ -202,9 +202,7 @@ inpM_SetHandle inp_RestartSetVisitor::ReadAssemblyIdsAndSetNamesSpanningInstance
         }
     }
     ids.MoveInto(set.Get());
-    if (!missing.IsEmpty())
-        AddError(inp_Utils::MessageInKeyword(keyword, atr("The following sets/IDs do not exist"),
-                                             missing));
+    reportMissing(keyword, missing);
     return set;
 }
 
@@ -240,10 +238,15 @@ inpM_SetHandle inp_RestartSetVisitor::GenerateAssemblySetSpanningInstances(
         }
     }
     ids.MoveInto(set.Get());
-    if (!missing.IsEmpty())
-        AddError(inp_Utils::MessageInKeyword(keyword, atr("The following sets/IDs do not exist"),
-                                             missing));
+    reportMissing(keyword, missing);
     return set;
+}
+
+void inp_RestartSetVisitor::reportMissing(inp_Keyword const& keyword,
+                                          cow_List<cow_String> const& missing) {
+    if (missing.IsEmpty()) return;
+    AddError(
+        inp_Utils::MessageInKeyword(keyword, atr("The following sets/IDs do not exist"), missing));
 }
 
 cow_String inp_RestartSetVisitor::FindOwningInstance(inpM_IdMap const& ids, int id) const {

@@ -65,6 +65,8 @@ class inp_RestartSetVisitor : public inp_SetVisitor {
     void readFlatModelSet(inp_Keyword& keyword, cow_String const& name, bool generate,
                           bool internal);
     bool isOriginalInstance(cow_String const& instance) const;
+    // The one error that lists what a spanning set named in vain.
+    void reportMissing(inp_Keyword const& keyword, cow_List<cow_String> const& missing);
     // The instance an id-map key stands for (see setInstancePartNames).
     cow_String instanceOfKey(cow_String const& key) const;
 

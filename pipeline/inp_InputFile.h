@@ -142,6 +142,13 @@ class inp_InputFile {
     // name are kept; a symmetric model generation drops the earlier job's
     // internal sets from `partMap` itself.
     void InheritPartMap(inpM_PartMap& partMap, bool atelierCompatible);
+    // After InheritPartMap of `earlier`'s part map, for a plain restart
+    // (which stays flat): its new node sets, element sets and surfaces read
+    // by the restart visitors against `earlier`'s names, then added with
+    // AddRestartSetsAndSurfaces; diagnostics go to this thread's sink. A
+    // restart that adds mesh has had its sets read with its fake part:
+    // nothing is done. Offered to callers; no stage of the road runs it.
+    void ReadRestartSetsAndSurfaces(inp_InputFile const& earlier);
     // The sets and surfaces a continuation job adds (as the restart set and
     // surface visitors read them) join its assembly's maps; NewNsets,
     // NewElsets and NewSurfaces keep them apart as well.

@@ -4,6 +4,8 @@
 // *IMPORT keywords name.
 
 #include "continuation/inp_ImportValidityVisitor.h"
+#include "continuation/inp_RestartSetVisitor.h"
+#include "continuation/inp_RestartSurfaceVisitor.h"
 #include "mesh/inp_Utils.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
@@ -43,6 +45,14 @@ void warnOfUnknownSets(inp_Keyword const& keyword, cow_List<cow_String> const& n
             thr_ThreadSingleton<wip_WIP>::Instance().Warning(inp_Utils::MessageInKeyword(
                 keyword,
                 atr("The set %1$s to be imported does not exist in the original analysis.", name)));
+}
+
+// The name of the earlier model's assembly: that of its first *ASSEMBLY
+// (a flat model's generated one among them).
+cow_String assemblyNameOf(inp_InputFile const& deck) {
+    for (inp_Keyword const& keyword : deck.Keywords())
+        if (keyword.Is(inp_kw_Assembly)) return keyword.GetParameterAsString("name", cow_String());
+    return cow_String();
 }
 
 }  // namespace
@@ -230,4 +240,32 @@ void inp_InputFile::DeleteSetsWhichShouldNotBeImported() {
     }
     if (nodeSetsNamed) m_assemblyNsets.DeleteAllSetsExceptThoseListed(keptNodeSets);
     if (elementSetsNamed) m_assemblyElsets.DeleteAllSetsExceptThoseListed(keptElementSets);
+}
+
+void inp_InputFile::ReadRestartSetsAndSurfaces(inp_InputFile const& earlier) {
+    if (!m_plainRestart) return;
+    inpM_PartMap const partMap = earlier.MakePartMap();
+    cow_String const assembly = assemblyNameOf(earlier);
+    bool const partsModel = partMap.FeatureEnhanced();
+
+    inp_RestartSetVisitor nodeSets(inp_RestartSetVisitor::Kind::NodeSets, partMap.ConstGetNsets(),
+                                   assembly, partsModel, partMap.ConstGetNodeIdMap());
+    nodeSets.setInstancePartNames(partMap.ConstGetInstancePartNames());
+    nodeSets.VisitListAndReport(m_keywords);
+    inp_RestartSetVisitor elementSets(inp_RestartSetVisitor::Kind::ElementSets,
+                                      partMap.ConstGetElsets(), assembly, partsModel,
+                                      partMap.ConstGetElemIdMap());
+    elementSets.setInstancePartNames(partMap.ConstGetInstancePartNames());
+    elementSets.VisitListAndReport(m_keywords);
+
+    // New surfaces may be made of the new sets as well as the old.
+    inpM_SetMap nodes = partMap.ConstGetNsets();
+    nodes.Merge(nodeSets.NewSets());
+    inpM_SetMap elements = partMap.ConstGetElsets();
+    elements.Merge(elementSets.NewSets());
+    inp_RestartSurfaceVisitor surfaces(partMap.ConstGetSurfaceMap(), assembly, partsModel, nodes,
+                                       elements, earlier.AssemblyElementMap());
+    surfaces.setInstancePartNames(partMap.ConstGetInstancePartNames());
+    surfaces.VisitListAndReport(m_keywords);
+    AddRestartSetsAndSurfaces(nodeSets.NewSets(), elementSets.NewSets(), surfaces.NewSurfaces());
 }

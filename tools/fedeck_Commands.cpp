@@ -18,7 +18,6 @@
 #include "tools/fedeck_Model.h"
 #include "tools/fedeck_Pipeline.h"
 #include "tools/fedeck_Report.h"
-#include "tools/fedeck_Restart.h"
 
 namespace {
 
@@ -97,7 +96,7 @@ class CheckedDeck {
         if (m_stoppedEarly) return;
         inpM_PartMap partMap = earlier.MakePartMap();
         m_deck.InheritPartMap(partMap, false);
-        fedeck_ReadRestartSetsAndSurfaces(m_deck, earlier);
+        m_deck.ReadRestartSetsAndSurfaces(earlier);
         m_stageName = kContinuationStage;
         runOfferedChecks();
     }

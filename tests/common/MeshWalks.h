@@ -5,8 +5,6 @@
 // For tests and the fuzz target that must see every mesh walk go over any
 // deck without a fault; the diagnostics go to the thread's sink.
 
-#include "continuation/inp_RestartSetVisitor.h"
-#include "continuation/inp_RestartSurfaceVisitor.h"
 #include "mesh/inp_ElementVisitor.h"
 #include "mesh/inp_NodeGenerationVisitor.h"
 #include "mesh/inp_NodeVisitor.h"
@@ -42,22 +40,7 @@ inline void RunContinuationJob(inp_InputFile const& expanded, inp_InputFile cons
     inp_InputFile later = expanded;
     inpM_PartMap partMap = earlier.MakePartMap();
     later.InheritPartMap(partMap, false);
-    cow_String const assembly("Assembly-1");
-    bool const parts = partMap.FeatureEnhanced();
-    inp_RestartSetVisitor nodeSets(inp_RestartSetVisitor::Kind::NodeSets, partMap.ConstGetNsets(),
-                                   assembly, parts, partMap.ConstGetNodeIdMap());
-    nodeSets.setInstancePartNames(partMap.ConstGetInstancePartNames());
-    nodeSets.VisitList(later.GetKeywords());
-    inp_RestartSetVisitor elementSets(inp_RestartSetVisitor::Kind::ElementSets,
-                                      partMap.ConstGetElsets(), assembly, parts,
-                                      partMap.ConstGetElemIdMap());
-    elementSets.VisitList(later.GetKeywords());
-    inp_RestartSurfaceVisitor surfaces(partMap.ConstGetSurfaceMap(), assembly, parts,
-                                       nodeSets.NewSets(), elementSets.NewSets(),
-                                       earlier.AssemblyElementMap());
-    surfaces.VisitList(later.GetKeywords());
-    later.AddRestartSetsAndSurfaces(nodeSets.NewSets(), elementSets.NewSets(),
-                                    surfaces.NewSurfaces());
+    later.ReadRestartSetsAndSurfaces(earlier);
 }
 
 // The fake part of each reader (the solver's, the pre-processor's, the
