@@ -36,35 +36,13 @@
 #include <malloc.h>
 #endif
 
+#include "bench/BenchDecks.h"
 #include "bench/inp_DeckGenerator.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
 
 namespace {
-
-// The directory of the generated decks, removed when main returns.
-class DeckDirectory {
-  public:
-    DeckDirectory() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "fedeck-bench-XXXXXX").string();
-        if (!mkdtemp(pattern.data()))
-            throw std::runtime_error("cannot create a temporary directory");
-        m_path = pattern;
-    }
-    ~DeckDirectory() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    DeckDirectory(DeckDirectory const&) = delete;
-    DeckDirectory& operator=(DeckDirectory const&) = delete;
-
-    std::string Path(std::string const& name) const { return (m_path / name).string(); }
-
-  private:
-    std::filesystem::path m_path;
-};
 
 // How far down the pipeline a benchmark runs.
 enum class Stages { ParseOnly, ThroughOrganize, ThroughFakePart, ThroughExtraction, Count };
@@ -89,25 +67,6 @@ void runStages(inp_InputFile& input, cow_String const& path, Stages stages) {
     input.Reorganize();
 }
 
-// The value of a "Name:   1234 kB" line of /proc/self/status, in bytes; 0 if absent.
-double statusBytes(char const* field) {
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    std::size_t const length = std::strlen(field);
-    while (std::getline(status, line))
-        if (line.compare(0, length, field) == 0 && line[length] == ':')
-            return std::strtod(line.c_str() + length + 1, nullptr) * 1024.0;
-    return 0;
-}
-
-// Sets the high-water mark of the resident set back to the current size.
-bool resetPeakResidentSet() {
-    std::ofstream clear("/proc/self/clear_refs");
-    clear << "5";
-    clear.flush();
-    return clear.good();
-}
-
 // Takes the diagnostics of the last parse out of this thread's sink.
 int takeDiagnostics() {
     wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
@@ -116,39 +75,14 @@ int takeDiagnostics() {
     return diagnostics;
 }
 
-// Runs one parse in a child process, whose heap holds nothing left over from
-// earlier parses, and returns how far the resident set's peak rose above its
-// size before the parse. Negative if it couldn't be measured.
-double measurePeakGrowth(std::string const& path, Stages stages) {
-    int channel[2];
-    if (pipe(channel) != 0) return -1;
-    pid_t const child = fork();
-    if (child == 0) {
-        close(channel[0]);
-#ifdef __GLIBC__
-        malloc_trim(0);
-#endif
-        double growth = -1;
-        if (resetPeakResidentSet()) {
-            double const before = statusBytes("VmRSS");
-            inp_InputFile input;
-            runStages(input, cow_String(path.c_str()), stages);
-            growth = statusBytes("VmHWM") - before;
-        }
-        ssize_t const written = write(channel[1], &growth, sizeof growth);
-        _exit(written == sizeof growth ? 0 : 1);
-    }
-    close(channel[1]);
-    double growth = -1;
-    if (child < 0 || read(channel[0], &growth, sizeof growth) != sizeof growth) growth = -1;
-    close(channel[0]);
-    if (child > 0) waitpid(child, nullptr, 0);
-    return growth;
-}
-
 void BM_Stages(benchmark::State& state, Deck* deck, Stages stages) {
     std::optional<double>& peak = deck->peakGrowthMegabytes[static_cast<int>(stages)];
-    if (!peak) peak = measurePeakGrowth(deck->path, stages) / 1e6;
+    if (!peak)
+        peak = bench_MeasurePeakGrowth([&] {
+                   inp_InputFile input;
+                   runStages(input, cow_String(deck->path.c_str()), stages);
+               }) /
+               1e6;
     std::chrono::duration<double> parsing{};
     std::chrono::duration<double> releasing{};
     int diagnostics = takeDiagnostics();
@@ -205,7 +139,7 @@ char const* stageLabel(Stages stages) {
     }
 }
 
-void registerCase(DeckDirectory const& directory, std::map<std::string, Deck>& decks,
+void registerCase(bench_DeckDirectory const& directory, std::map<std::string, Deck>& decks,
                   inp_DeckLayout const& layout, int iterations) {
     std::string const name = caseName(layout);
     Deck& deck = decks[name];
@@ -230,7 +164,7 @@ void registerCase(DeckDirectory const& directory, std::map<std::string, Deck>& d
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    DeckDirectory directory;
+    bench_DeckDirectory directory;
     std::map<std::string, Deck> decks;
     int const size = benchSize();
     int const small = 20;

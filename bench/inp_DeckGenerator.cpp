@@ -1,5 +1,7 @@
 #include "bench/inp_DeckGenerator.h"
 
+#include "bench/inp_ChunkedFile.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -11,84 +13,6 @@
 #include <utility>
 
 namespace {
-
-// Decks run to hundreds of megabytes: text is formatted straight into one big
-// buffer and leaves it in large writes, never line by line.
-class ChunkedFile {
-  public:
-    static constexpr std::size_t kBufferSize = std::size_t{4} << 20;
-
-    explicit ChunkedFile(std::string const& path)
-        : m_file(std::fopen(path.c_str(), "wb")), m_buffer(new char[kBufferSize]), m_path(path) {
-        if (!m_file) throw std::runtime_error("cannot create deck file " + path);
-    }
-    ChunkedFile(ChunkedFile const&) = delete;
-    ChunkedFile& operator=(ChunkedFile const&) = delete;
-    ~ChunkedFile() {
-        if (m_file) std::fclose(m_file);
-    }
-
-    void Text(std::string_view text) {
-        makeRoom(text.size());
-        if (text.size() > kBufferSize) return writeOut(text.data(), text.size());
-        text.copy(m_buffer.get() + m_used, text.size());
-        m_used += text.size();
-    }
-    void Line(std::string_view text) {
-        Text(text);
-        EndLine();
-    }
-    void Integer(std::int64_t value) {
-        makeRoom(kNumberRoom);
-        char* at = m_buffer.get() + m_used;
-        m_used += static_cast<std::size_t>(std::to_chars(at, at + kNumberRoom, value).ptr - at);
-    }
-    // Writes micros / 1e6 with exactly six decimals, as "-0.250000".
-    void Fixed6(std::int64_t micros) {
-        if (micros < 0) {
-            Text("-");
-            micros = -micros;
-        }
-        Integer(micros / 1000000);
-        char fraction[8] = {'.', '0', '0', '0', '0', '0', '0', '\0'};
-        std::int64_t rest = micros % 1000000;
-        for (int digit = 6; digit >= 1 && rest > 0; --digit, rest /= 10)
-            fraction[digit] = static_cast<char>('0' + rest % 10);
-        Text(std::string_view(fraction, 7));
-    }
-    void Comma() { Text(", "); }
-    void EndLine() { Text("\n"); }
-
-    // Writes what is buffered, closes the file and returns the bytes written.
-    std::uint64_t Finish() {
-        flush();
-        std::FILE* file = std::exchange(m_file, nullptr);
-        if (std::fclose(file) != 0) throw std::runtime_error("cannot close deck file " + m_path);
-        return m_written;
-    }
-
-  private:
-    static constexpr std::size_t kNumberRoom = 24;
-
-    void makeRoom(std::size_t size) {
-        if (kBufferSize - m_used < size) flush();
-    }
-    void flush() {
-        writeOut(m_buffer.get(), m_used);
-        m_used = 0;
-    }
-    void writeOut(char const* data, std::size_t size) {
-        if (std::fwrite(data, 1, size, m_file) != size)
-            throw std::runtime_error("cannot write deck file " + m_path);
-        m_written += size;
-    }
-
-    std::FILE* m_file;
-    std::unique_ptr<char[]> m_buffer;
-    std::size_t m_used = 0;
-    std::uint64_t m_written = 0;
-    std::string m_path;
-};
 
 // Node (i, j, k) has label 1 + i + (nx+1) * (j + (ny+1) * k): x runs fastest,
 // so the bottom face z = 0 is the label range 1 .. (nx+1)(ny+1) and the top
@@ -112,7 +36,7 @@ Grid gridOf(inp_DeckLayout const& layout) {
 
 char const* const kPartName = "BLOCK";
 
-void writeHeading(ChunkedFile& out, inp_DeckLayout const& layout) {
+void writeHeading(inp_ChunkedFile& out, inp_DeckLayout const& layout) {
     out.Line("*HEADING");
     out.Text("Structured block of ");
     out.Integer(layout.nx);
@@ -124,7 +48,7 @@ void writeHeading(ChunkedFile& out, inp_DeckLayout const& layout) {
     out.Line("** Written by the deck generator: units mm, N, s.");
 }
 
-void writeNodes(ChunkedFile& out, Grid const& grid) {
+void writeNodes(inp_ChunkedFile& out, Grid const& grid) {
     out.Line("*NODE, NSET=ALL");
     std::int64_t label = 1;
     for (std::int64_t k = 0; k <= grid.nz; ++k)
@@ -141,7 +65,7 @@ void writeNodes(ChunkedFile& out, Grid const& grid) {
             }
 }
 
-void writeElements(ChunkedFile& out, Grid const& grid) {
+void writeElements(inp_ChunkedFile& out, Grid const& grid) {
     out.Line("*ELEMENT, TYPE=C3D8, ELSET=EALL");
     std::int64_t const row = grid.nx + 1;
     std::int64_t const layer = grid.nodesPerLayer();
@@ -162,7 +86,7 @@ void writeElements(ChunkedFile& out, Grid const& grid) {
             }
 }
 
-void writeGeneratedSet(ChunkedFile& out, std::string_view keywordLine, std::int64_t first,
+void writeGeneratedSet(inp_ChunkedFile& out, std::string_view keywordLine, std::int64_t first,
                        std::int64_t last) {
     out.Line(keywordLine);
     out.Integer(first);
@@ -172,7 +96,7 @@ void writeGeneratedSet(ChunkedFile& out, std::string_view keywordLine, std::int6
 }
 
 // The nodes along the x axis, listed sixteen to a line as decks usually do.
-void writeEdgeSet(ChunkedFile& out, Grid const& grid) {
+void writeEdgeSet(inp_ChunkedFile& out, Grid const& grid) {
     out.Line("*NSET, NSET=EDGE");
     for (std::int64_t i = 0; i <= grid.nx; ++i) {
         out.Integer(grid.node(i, 0, 0));
@@ -184,7 +108,7 @@ void writeEdgeSet(ChunkedFile& out, Grid const& grid) {
     }
 }
 
-void writeMesh(ChunkedFile& out, Grid const& grid) {
+void writeMesh(inp_ChunkedFile& out, Grid const& grid) {
     writeNodes(out, grid);
     writeElements(out, grid);
     writeGeneratedSet(out, "*NSET, NSET=BOTTOM, GENERATE", 1, grid.nodesPerLayer());
@@ -196,7 +120,7 @@ void writeMesh(ChunkedFile& out, Grid const& grid) {
     out.Line(",");
 }
 
-void writeMaterial(ChunkedFile& out) {
+void writeMaterial(inp_ChunkedFile& out) {
     out.Line("** Structural steel");
     out.Line("*MATERIAL, NAME=STEEL");
     out.Line("*ELASTIC");
@@ -205,7 +129,7 @@ void writeMaterial(ChunkedFile& out) {
     out.Line("7.85e-09,");
 }
 
-void writeInstance(ChunkedFile& out, int number, std::int64_t offsetMicros) {
+void writeInstance(inp_ChunkedFile& out, int number, std::int64_t offsetMicros) {
     out.Text("*INSTANCE, NAME=");
     out.Text(kPartName);
     out.Text("-");
@@ -218,7 +142,7 @@ void writeInstance(ChunkedFile& out, int number, std::int64_t offsetMicros) {
 }
 
 // Instances stand along x with a gap of two elements between neighbours.
-void writeAssembly(ChunkedFile& out, Grid const& grid, int instances) {
+void writeAssembly(inp_ChunkedFile& out, Grid const& grid, int instances) {
     out.Line("*ASSEMBLY, NAME=ASSEMBLY");
     std::int64_t const pitch = grid.widthMicros() + 2 * grid.stepMicros;
     for (int n = 1; n <= instances; ++n) writeInstance(out, n, (n - 1) * pitch);
@@ -227,7 +151,7 @@ void writeAssembly(ChunkedFile& out, Grid const& grid, int instances) {
 
 // A flat deck names its sets and nodes directly; a deck of instances prefixes
 // them with "BLOCK-n." for every instance.
-void writeScopedRows(ChunkedFile& out, int instances, std::string_view target,
+void writeScopedRows(inp_ChunkedFile& out, int instances, std::string_view target,
                      std::string_view rest) {
     for (int n = 1; n <= std::max(instances, 1); ++n) {
         if (instances > 0) {
@@ -241,7 +165,7 @@ void writeScopedRows(ChunkedFile& out, int instances, std::string_view target,
     }
 }
 
-void writeStep(ChunkedFile& out, Grid const& grid, int instances) {
+void writeStep(inp_ChunkedFile& out, Grid const& grid, int instances) {
     out.Line("*STEP, NAME=LOAD");
     out.Line("Pull on one top corner of a clamped block");
     out.Line("*STATIC");
@@ -292,7 +216,7 @@ std::int64_t inp_DeckGenerator::NodeLabel(int i, int j, int k) const {
 
 std::uint64_t inp_DeckGenerator::Write(std::string const& path) const {
     Grid const grid = gridOf(m_layout);
-    ChunkedFile out(path);
+    inp_ChunkedFile out(path);
     writeHeading(out, m_layout);
     if (m_layout.instances == 0) {
         writeMesh(out, grid);

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "bench/inp_KeywordDeckGenerator.h"
 #include "parser/inp_Parser.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/thr_Singleton.h"
@@ -170,4 +171,34 @@ TEST(DeckGeneratorLayout, RejectsSizesThatMakeNoDeck) {
     EXPECT_THROW(inp_DeckGenerator({.elementSize = 0.0}), std::invalid_argument);
     EXPECT_THROW(inp_DeckGenerator({.nx = 2000, .ny = 2000, .nz = 2000}), std::invalid_argument);
     EXPECT_THROW(inp_WriteDeck({}, "/nonexistent-directory/deck.inp"), std::runtime_error);
+}
+
+// The keyword decks: each keyword as many times as asked, every id it names
+// defined, and the whole road without a diagnostic; without the mesh, the
+// keywords alone.
+TEST(KeywordDeckGenerator, WritesTheKeywordsAskedForAndTheMeshTheyName) {
+    TempDeckDirectory directory;
+    cow_String const path = directory.Path("keywords.inp");
+    inp_WriteKeywordDeck({.nodeSets = 7, .elementSets = 5, .boundaries = 4, .concentrated = 3},
+                         std::string(path.View()));
+    ParsedDeck const parsed = parseStrictly(path);
+    EXPECT_EQ(parsed.errors + parsed.warnings + parsed.fatalErrors, 0);
+    EXPECT_EQ(countOf(parsed.keywords, inp_kw_Nset), 7);
+    EXPECT_EQ(countOf(parsed.keywords, inp_kw_Elset), 5);
+    EXPECT_EQ(countOf(parsed.keywords, inp_kw_Boundary), 4);
+    EXPECT_EQ(countOf(parsed.keywords, inp_kw_Cload), 3);
+    wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
+    sink.Clear();
+    inp_InputFile input;
+    input.Run(path, inp_Stage::OutOfPlace, inp_InputFile::RunRule::RunThrough);
+    EXPECT_TRUE(sink.Diagnostics().empty())
+        << (sink.Diagnostics().empty() ? "" : sink.Diagnostics().front().text.CStr());
+    sink.Clear();
+
+    inp_WriteKeywordDeck({.nodeSets = 2, .mesh = false}, std::string(path.View()));
+    ParsedDeck const bare = parseStrictly(path);
+    EXPECT_EQ(countOf(bare.keywords, inp_kw_Node), 0);
+    EXPECT_EQ(countOf(bare.keywords, inp_kw_Nset), 2);
+    EXPECT_THROW(inp_WriteKeywordDeck({.boundaries = -1}, std::string(path.View())),
+                 std::invalid_argument);
 }
