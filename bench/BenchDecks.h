@@ -91,4 +91,3 @@ inline double bench_MeasurePeakGrowth(std::function<void()> const& run) {
     if (child > 0) waitpid(child, nullptr, 0);
     return growth;
 }
-

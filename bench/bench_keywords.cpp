@@ -115,7 +115,8 @@ int main(int argc, char** argv) {
     for (int i = 0; i < 3; ++i) {
         KeywordDeck& deck = decks[static_cast<size_t>(i) + 1];
         deck.path = directory.Path(std::to_string(i) + ".inp");
-        deck.megabytes = static_cast<double>(inp_WriteKeywordDeck(kinds[i].layout, deck.path)) / 1e6;
+        deck.megabytes =
+            static_cast<double>(inp_WriteKeywordDeck(kinds[i].layout, deck.path)) / 1e6;
         registerCase(kinds[i].name, deck, false, 2);
     }
     benchmark::RunSpecifiedBenchmarks();

@@ -71,8 +71,8 @@ std::uint64_t inp_WriteKeywordDeck(inp_KeywordDeckLayout const& layout, std::str
     if (layout.nodeSets < 0 || layout.elementSets < 0 || layout.boundaries < 0 ||
         layout.concentrated < 0)
         throw std::invalid_argument("keyword counts must not be negative");
-    std::int64_t const nodes = std::max({3, layout.nodeSets, layout.elementSets + 1,
-                                         layout.boundaries, layout.concentrated});
+    std::int64_t const nodes = std::max(
+        {3, layout.nodeSets, layout.elementSets + 1, layout.boundaries, layout.concentrated});
     inp_ChunkedFile out(path);
     out.Line("*HEADING");
     out.Line("many small keywords");

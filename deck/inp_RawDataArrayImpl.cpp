@@ -104,7 +104,10 @@ inp_DataArrayImpl* inp_RawDataArrayImpl::Copy() const {
 // most keywords have no data lines, and the first append gives the same 10 rows.
 void inp_RawDataArrayImpl::growIfFull() {
     if (nrows + 1 <= allocatedSize) return;
-    int newSize = allocatedSize * 2 > 10 ? allocatedSize * 2 : 10;
+    // Most keywords have one data line or a few: the table starts at one row
+    // and doubles, so that a million one-line keywords don't each hold room
+    // for ten.
+    int const newSize = allocatedSize > 0 ? allocatedSize * 2 : 1;
     auto* newRows =
         static_cast<char**>(mem_Realloc(rows, sizeof(char*) * static_cast<size_t>(newSize)));
     if (!newRows) throw inp_MemoryException();

@@ -32,17 +32,18 @@ void inp_InputFile::Print(aio_ostream& out) const {
     Print(lines);
 }
 
+// Most lists have no blanked record: they are only looked at, since a copy
+// of each record would cost a reference count on each of its parts.
 void inp_InputFile::DiscardEmptyKeywords() {
+    int blanks = 0;
+    for (inp_Keyword const& keyword : m_keywords)
+        blanks += keyword.Keyword() == inp_kw_UndefinedKeyword;
+    if (blanks == 0) return;
     cow_List<inp_Keyword> kept;
-    bool anyBlank = false;
-    for (inp_Keyword const& keyword : m_keywords) {
-        if (keyword.Keyword() == inp_kw_UndefinedKeyword) {
-            anyBlank = true;
-        } else {
-            kept.Append(keyword);
-        }
-    }
-    if (anyBlank) m_keywords = kept;
+    kept.Reserve(m_keywords.Length() - blanks);
+    for (inp_Keyword const& keyword : m_keywords)
+        if (keyword.Keyword() != inp_kw_UndefinedKeyword) kept.Append(keyword);
+    m_keywords = kept;
 }
 
 cow_String inp_InputFile::TakeOutSpacesOutsideQuoted(char const* text) {
