@@ -1,0 +1,189 @@
+// Keyword data of moved instances brought into the global frame: points
+// move, directions and tensors turn, keywords that lean on the global axes
+// get an orientation of their own, and nothing outside a moved instance
+// changes.
+
+#include "transform/inp_TransformationVisitor.h"
+
+#include <gtest/gtest.h>
+
+#include <numbers>
+#include <string>
+
+#include "tests/mesh/InlineDeck.h"
+
+namespace {
+
+// MOVED is turned a quarter about z and shifted by 10 along x; TILTED is
+// turned a quarter about x; STILL stays.
+inpM_InstanceMap<gsl_Matrix> transforms() {
+    inpM_InstanceMap<gsl_Matrix> map;
+    gsl_Matrix moved = gsl_Matrix::AxisRotation({0, 0, 0}, {0, 0, 1}, std::numbers::pi / 2);
+    moved.SetTranslation(10, 0, 0);
+    map.Insert(cow_String("MOVED"), moved);
+    map.Insert(cow_String("TILTED"),
+               gsl_Matrix::AxisRotation({0, 0, 0}, {1, 0, 0}, std::numbers::pi / 2));
+    map.Insert(cow_String("STILL"), gsl_Matrix());
+    return map;
+}
+
+inp_Keyword instance(char const* name, std::string const& body) {
+    inp_Keyword keyword = InlineDeck(std::string("*INSTANCE, NAME=") + name + ", PART=P\n")[0];
+    keyword.SetSuboptions(InlineDeck(body + "*END INSTANCE\n"));
+    return keyword;
+}
+
+// A part and an assembly whose instances all hold `body`.
+cow_List<inp_Keyword> modelWith(std::string const& body) {
+    inp_Keyword part = InlineDeck("*PART, NAME=P\n")[0];
+    part.SetSuboptions(InlineDeck(body + "*END PART\n"));
+    inp_Keyword assembly = InlineDeck("*ASSEMBLY, NAME=A\n")[0];
+    cow_List<inp_Keyword> instances;
+    for (char const* name : {"MOVED", "TILTED", "STILL"}) instances.Append(instance(name, body));
+    instances.Append(InlineDeck("*END ASSEMBLY\n")[0]);
+    assembly.SetSuboptions(instances);
+    cow_List<inp_Keyword> model;
+    model.Append(part);
+    model.Append(assembly);
+    return model;
+}
+
+class Transformation : public ::testing::Test {
+  protected:
+    void walk(cow_List<inp_Keyword>& model) {
+        inp_TransformationVisitor visitor(transforms(), cow_List<int>(), nodeSets, inpM_IdMap(),
+                                          false, inp_CoordMap(), elements, elementSets,
+                                          inp_ModelParameters());
+        visitor.VisitList(model);
+        errors = std::string(visitor.Errors().View());
+    }
+    // Keyword `index` of the instance (0 MOVED, 1 TILTED, 2 STILL), or of
+    // the part with -1.
+    static inp_Keyword const& in(cow_List<inp_Keyword> const& model, int holder, int index) {
+        if (holder < 0) return model.ConstGet(0).Suboptions().ConstGet(index);
+        return model.ConstGet(1).Suboptions().ConstGet(holder).Suboptions().ConstGet(index);
+    }
+    static std::string row(inp_Keyword const& keyword, int row) {
+        std::string text;
+        for (int column = 0; column < keyword.Data().Cols(row); ++column)
+            text += (column ? "," : "") + std::string(keyword.Data().AsStringVerbatim(row, column).View());
+        return text;
+    }
+
+    inpM_SetMap nodeSets;
+    inpM_SetMap elementSets;
+    inpM_InstanceMap<inp_MapInt2Element> elements;
+    std::string errors;
+};
+
+}  // namespace
+
+// Points move with the instance, directions turn; a composite section, the
+// part itself and an instance that stays are left as written.
+TEST_F(Transformation, PointsMoveAndDirectionsTurnInMovedInstancesOnly) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*SOLID SECTION, ELSET=E, MATERIAL=M\n1., 1., 0., 0.\n"
+        "*SOLID SECTION, ELSET=C, MATERIAL=M, COMPOSITE\n1., 1., 0., 0.\n"
+        "*GAP, ELSET=G\n0.5, 1., 0., 0.\n");
+    cow_List<inp_Keyword> const before = model;
+    walk(model);
+    EXPECT_EQ(row(in(model, 0, 0), 0), "1.,10,1,0");
+    EXPECT_EQ(row(in(model, 0, 1), 0), "1.,1.,0.,0.");
+    EXPECT_EQ(row(in(model, 0, 2), 0), "0.5,0,1,0");
+    EXPECT_EQ(row(in(model, 2, 0), 0), "1.,1.,0.,0.");  // STILL
+    EXPECT_EQ(row(in(model, -1, 0), 0), "1.,1.,0.,0.");  // the part
+    // A copy made before the walk kept its data.
+    EXPECT_EQ(row(in(before, 0, 0), 0), "1.,1.,0.,0.");
+}
+
+// A rectangular system turns as vectors, a cylindrical *TRANSFORM moves as
+// points; a line after the first, or a first line that names a
+// distribution, stays.
+TEST_F(Transformation, LocalSystemsTurnWithTheInstance) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*ORIENTATION, NAME=OR\n1., 0., 0., 0., 1., 0.\n3, 10.\n"
+        "*ORIENTATION, NAME=BYTABLE\nDIST\n"
+        "*TRANSFORM, NSET=N, TYPE=C\n0., 0., 0., 0., 0., 1.\n"
+        "*TRANSFORM, NSET=N\n1., 0., 0., 0., 1., 0.\n");
+    walk(model);
+    inp_Keyword const& orientation = in(model, 0, 0);
+    EXPECT_EQ(row(orientation, 0), "0,1,0,-1,0,0");
+    EXPECT_EQ(row(orientation, 1), "3,10.");
+    EXPECT_EQ(row(in(model, 0, 1), 0), "DIST");
+    EXPECT_EQ(row(in(model, 0, 2), 0), "10,0,0,10,0,1");
+    EXPECT_EQ(row(in(model, 0, 3), 0), "0,1,0,-1,0,0");
+}
+
+// Keywords that lean on the global axes get an *ORIENTATION of the global
+// axes turned, named after them, behind the children of their holder; two
+// of one name get the same one twice. With ORIENTATION given, nothing.
+TEST_F(Transformation, KeywordsOnTheGlobalAxesGetAnOrientationOfTheirOwn) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*KINEMATIC COUPLING, REF NODE=5\n1, 1\n"
+        "*KINEMATIC COUPLING, REF NODE=5\n2, 2\n"
+        "*KINEMATIC COUPLING, REF NODE=6, ORIENTATION=MINE\n3, 3\n");
+    walk(model);
+    inp_Keyword const& moved = model.ConstGet(1).Suboptions().ConstGet(0);
+    ASSERT_EQ(moved.Suboptions().Length(), 4 + 2);  // three, *END INSTANCE, two added
+    EXPECT_EQ(in(model, 0, 0).GetParameterAsString("orientation", "").View(), "Kinematic-Coupling_5");
+    EXPECT_EQ(in(model, 0, 2).GetParameterAsString("orientation", "").View(), "MINE");
+    for (int added : {4, 5}) {
+        inp_Keyword const& orientation = in(model, 0, added);
+        EXPECT_TRUE(orientation.Is(inp_kw_Orientation));
+        EXPECT_EQ(orientation.GetParameterAsString("name", "").View(), "Kinematic-Coupling_5");
+        EXPECT_EQ(row(orientation, 0), "0,1,0,-1,0,0");
+    }
+    EXPECT_FALSE(in(model, 2, 0).HasParameter("orientation"));  // STILL
+}
+
+// Only springs along a fixed direction need one: SPRING1 does, SPRINGA not.
+TEST_F(Transformation, SpringsAlongAFixedDirectionOnly) {
+    inp_MapInt2Element table;
+    table.Insert(1, inp_Element(cow_String("SPRING1"), cow_List<int>{1}, 1, 0, 0));
+    table.Insert(2, inp_Element(cow_String("SPRINGA"), cow_List<int>{1, 2}, 2, 0, 0));
+    elements.Insert(cow_String("MOVED"), table);
+    elementSets.InsertNestedSet(cow_String("MOVED"), cow_String("S1"),
+                                CreateSet(cow_List<int>{1}, false, false));
+    elementSets.InsertNestedSet(cow_String("MOVED"), cow_String("SA"),
+                                CreateSet(cow_List<int>{2}, false, false));
+    cow_List<inp_Keyword> model =
+        modelWith("*SPRING, ELSET=S1\n3\n100.\n*SPRING, ELSET=SA\n\n100.\n");
+    walk(model);
+    EXPECT_EQ(in(model, 0, 0).GetParameterAsString("orientation", "").View(), "spring_S1");
+    EXPECT_FALSE(in(model, 0, 1).HasParameter("orientation"));
+}
+
+// The tensor turns as R I R^T; with ORIENTATION it is left alone.
+TEST_F(Transformation, RotaryInertiaTurnsAsATensor) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*ROTARY INERTIA, ELSET=R\n1., 2., 3., 0., 0., 0.\n"
+        "*ROTARY INERTIA, ELSET=R, ORIENTATION=O\n1., 2., 3.\n");
+    walk(model);
+    inp_DataArray const& turned = in(model, 0, 0).Data();
+    double const expected[6] = {2, 1, 3, 0, 0, 0};
+    for (int k = 0; k < 6; ++k) EXPECT_NEAR(turned.AsDouble(0, k), expected[k], 1e-12) << k;
+    EXPECT_EQ(row(in(model, 0, 1), 0), "1.,2.,3.");
+}
+
+// A beam's first direction turns; without a line for it, the default
+// (0, 0, -1) turned becomes one. A *BEAM SECTION needs SECTION.
+TEST_F(Transformation, BeamDirectionsTurnAndAMissingOneIsWritten) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*BEAM GENERAL SECTION, ELSET=B, SECTION=RECT\n0.1, 0.2\n"
+        "*BEAM GENERAL SECTION, ELSET=C, SECTION=RECT\n0.1, 0.2\n1., 0., 0.\n"
+        "*BEAM SECTION, ELSET=D\n0.1\n");
+    walk(model);
+    inp_Keyword const& tilted = in(model, 1, 0);  // a quarter about x
+    ASSERT_EQ(tilted.Data().Rows(), 2);
+    EXPECT_EQ(row(tilted, 1), "0,1,0");
+    EXPECT_EQ(row(in(model, 0, 1), 1), "0,1,0");  // MOVED, about z
+    EXPECT_NE(errors.find("The SECTION parameter is required for *BEAM SECTION. "),
+              std::string::npos);
+}
+
+TEST(TransformationTolerance, NoiseBesideTheLargestComponentBecomesZero) {
+    gsl_Vector const cleaned =
+        inp_TransformationVisitor::ZeroSmallerThanTolerance(gsl_Vector(1.0, -1.2e-17, 0.5));
+    EXPECT_EQ(cleaned.Y(), 0.0);
+    EXPECT_EQ(cleaned.Z(), 0.5);
+}

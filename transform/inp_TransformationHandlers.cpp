@@ -1,0 +1,248 @@
+// What each keyword that holds geometry gets in a moved instance: the
+// handlers of inp_TransformationVisitor, all behind its guard. Columns and
+// rows count from 0.
+
+#include <algorithm>
+#include <cstdio>
+
+#include "mesh/inp_Utils.h"
+#include "transform/inp_TransformationVisitor.h"
+
+namespace {
+
+cow_String parameterOr(inp_Keyword const& keyword, char const* name, char const* fallback) {
+    return keyword.GetParameterAsString(name, cow_String(fallback));
+}
+
+}  // namespace
+
+// -- a point or a vector at fixed places -------------------------------------------------
+
+void inp_TransformationVisitor::VisitGasketSection(inp_Keyword& keyword) {
+    if (!guarded(keyword)) TransformSingleVector(keyword, 0, 4);
+}
+
+void inp_TransformationVisitor::VisitGap(inp_Keyword& keyword) {
+    if (!guarded(keyword)) TransformSingleVector(keyword, 0, 1);
+}
+
+void inp_TransformationVisitor::VisitIts(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    TransformSingleVector(keyword, 0, 2);
+    TransformSingleVector(keyword, 0, 5);
+}
+
+void inp_TransformationVisitor::VisitPreTensionSection(inp_Keyword& keyword) {
+    if (!guarded(keyword)) TransformSingleVector(keyword, 0, 0);
+}
+
+// A composite section has no orientation point.
+void inp_TransformationVisitor::VisitSolidSection(inp_Keyword& keyword) {
+    if (!guarded(keyword) && !keyword.HasParameter("composite"))
+        TransformSinglePoint(keyword, 0, 1);
+}
+
+void inp_TransformationVisitor::VisitImpedanceProperty(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    cow_String const type = parameterOr(keyword, "type", "TABULAR");
+    if (type != "ELLIPTICAL" && type != "PROLATESPHEROID") return;
+    TransformSinglePoint(keyword, 0, 2);
+    TransformSingleVector(keyword, 0, 5);
+}
+
+void inp_TransformationVisitor::VisitWave(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    cow_String const type = parameterOr(keyword, "type", "");
+    if (type == "AIRY" || type == "STOKES") {
+        for (int row = 0; row < keyword.Data().Rows(); ++row) TransformSingleVector(keyword, row, 3);
+    } else if (type == "GRIDDED") {
+        TransformSinglePoint(keyword, 0, 0);
+        TransformSingleVector(keyword, 0, 3);
+    }
+}
+
+// Column 6 holds a value that is no vector component: it stands aside, so
+// that the vector of columns 4 and 5 turns with a z of 0.
+void inp_TransformationVisitor::VisitWind(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    inp_DataArray const& data = keyword.Data();
+    bool const held = data.Cols(0) > 6;
+    cow_String const exponent = held ? data.AsStringVerbatim(0, 6) : cow_String();
+    ownData(keyword);
+    if (held) keyword.Data().Set(0, 6, cow_String("0"));
+    TransformSingleVector(keyword, 0, 4);
+    if (held) keyword.Data().Set(0, 6, exponent);
+}
+
+void inp_TransformationVisitor::VisitAqua(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    for (int row = 1; row < keyword.Data().Rows(); ++row) {
+        TransformSingleVector(keyword, row, 0);
+        TransformSinglePoint(keyword, row, 4);
+    }
+    AddWarning(inp_Utils::MessageInKeyword(
+        keyword,
+        atr("*AQUA data lines are detected in an instance with non-zero translation/rotation. "
+            "Data items pertaining to elevation have not been transformed by the Parts/Assembly "
+            "Processor. Please check their validity before submitting the job for analysis. ")));
+}
+
+// Columns 2 to 4 are a direction; the first two are kept.
+void inp_TransformationVisitor::VisitNormal(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    for (int row = 0; row < keyword.Data().Rows(); ++row) TransformSingleVector(keyword, row, 2);
+}
+
+// -- beam sections ----------------------------------------------------------------------
+
+void inp_TransformationVisitor::VisitBeamSection(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    if (!keyword.HasParameter("section")) {
+        AddError(inp_Utils::MessageInKeyword(
+            keyword, atr("The SECTION parameter is required for *BEAM SECTION. ")));
+        return;
+    }
+    if (keyword.GetParameterAsString("section", cow_String()) == "ELBOW") {
+        TransformSinglePoint(keyword, 1, 0);
+        return;
+    }
+    transformBeamDirection(keyword);
+}
+
+void inp_TransformationVisitor::VisitBeamGeneralSection(inp_Keyword& keyword) {
+    if (!guarded(keyword)) transformBeamDirection(keyword);
+}
+
+void inp_TransformationVisitor::VisitFrameSection(inp_Keyword& keyword) {
+    VisitBeamGeneralSection(keyword);
+}
+
+// The row of the first axis direction follows from SECTION; without it the
+// direction is (0, 0, -1), which, turned, becomes a line of its own.
+void inp_TransformationVisitor::transformBeamDirection(inp_Keyword& keyword) {
+    inp_DataArray const& data = keyword.Data();
+    cow_String const section = parameterOr(keyword, "section", "GENERAL");
+    int row = keyword.HasParameter("taper") ? 2 : 1;
+    if (section == "ARBITRARY") {
+        bool const counted = data.Cols(0) > 0 && data.Type(0, 0) == inp_Types::inp_INTEGER;
+        row = std::max(counted ? data.AsInt(0, 0) : 0, 2);
+    } else if (section == "MESHED") {
+        row = 0;
+    } else if (section == "NONLINEARGENERAL") {
+        row = 1;
+    }
+    bool const exists = row < data.Rows();
+    double direction[3] = {0.0, 0.0, -1.0};
+    if (exists && data.Cols(row) > 0 && data.HasValue(row, 0))
+        for (int k = 0; k < 3; ++k)
+            direction[k] = k < data.Cols(row) && data.HasValue(row, k) ? data.AsDouble(row, k) : 0.0;
+    gsl_Vector vector(direction[0], direction[1], direction[2]);
+    m_currentTransform.Transform(vector);
+    ownData(keyword);
+    if (exists) {
+        keyword.Data().Set(row, 0, cow_String::FromDouble(vector.X()));
+        keyword.Data().Set(row, 1, cow_String::FromDouble(vector.Y()));
+        keyword.Data().Set(row, 2, cow_String::FromDouble(vector.Z()));
+        return;
+    }
+    char line[96];
+    std::snprintf(line, sizeof line, "%lg, %lg, %lg", vector.X(), vector.Y(), vector.Z());
+    keyword.Data().Append(line);
+}
+
+// -- local systems ----------------------------------------------------------------------
+
+// A definition by coordinates turns whole. The definition by nodes of the
+// local system is not rewritten here: it is left as written.
+void inp_TransformationVisitor::VisitOrientation(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    if (parameterOr(keyword, "definition", "COORDINATES") != "COORDINATES") return;
+    cow_String const system = parameterOr(keyword, "system", "RECTANGULAR");
+    bool const vectorsOnly = system == "RECTANGULAR" || system == "ZRECTANGULAR";
+    keyword = TransformOrientationData(keyword, vectorsOnly);
+}
+
+// A rectangular system turns; a cylindrical or spherical one is given by
+// points, which move.
+void inp_TransformationVisitor::VisitTransform(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    keyword = TransformOrientationData(keyword, parameterOr(keyword, "type", "R") == "R");
+}
+
+// The tensor I becomes R I R^T, R the rotation of the instance.
+void inp_TransformationVisitor::VisitRotaryInertia(inp_Keyword& keyword) {
+    if (guarded(keyword) || keyword.HasParameter("orientation")) return;
+    inp_DataArray const& data = keyword.Data();
+    double values[6];
+    for (int k = 0; k < 6; ++k)
+        values[k] = k < data.Cols(0) && data.HasValue(0, k) ? data.AsDouble(0, k) : 0.0;
+    double inertia[3][3] = {{values[0], values[3], values[4]},
+                            {values[3], values[1], values[5]},
+                            {values[4], values[5], values[2]}};
+    double rotation[3][3];
+    double transposed[3][3];
+    for (int i = 0; i < 3; ++i)
+        for (int j = 0; j < 3; ++j) {
+            rotation[i][j] = m_currentTransform.Element(i, j);
+            transposed[j][i] = rotation[i][j];
+        }
+    double turned[3][3];
+    double result[3][3];
+    MatrixMultiply3x3(rotation, inertia, turned);
+    MatrixMultiply3x3(turned, transposed, result);
+    double const ordered[6] = {result[0][0], result[1][1], result[2][2],
+                               result[0][1], result[0][2], result[1][2]};
+    cow_List<cow_String> items;
+    for (double value : ordered) items.Append(cow_String::FromDouble(value));
+    inp_DataArray tensor;
+    tensor.Append(items);
+    keyword.SetData(tensor);
+}
+
+// -- keywords that refer to the global axes ----------------------------------------------
+
+void inp_TransformationVisitor::VisitCoupling(inp_Keyword& keyword) {
+    if (keyword.HasParameter("refnode"))
+        addAuxiliaryOrientation(keyword, "Coupling_", "constraintname");
+}
+
+void inp_TransformationVisitor::VisitKinematicCoupling(inp_Keyword& keyword) {
+    addAuxiliaryOrientation(keyword, "Kinematic-Coupling_", "refnode");
+}
+
+void inp_TransformationVisitor::VisitAdjust(inp_Keyword& keyword) {
+    addAuxiliaryOrientation(keyword, "Adjust_", "nodeset");
+}
+
+void inp_TransformationVisitor::VisitFastener(inp_Keyword& keyword) {
+    addAuxiliaryOrientation(keyword, "Fastener_", "referencenodeset");
+}
+
+void inp_TransformationVisitor::VisitJoint(inp_Keyword& keyword) {
+    addAuxiliaryOrientation(keyword, "jointc_", "elset");
+}
+
+void inp_TransformationVisitor::VisitSpring(inp_Keyword& keyword) {
+    visitSpringOrDashpot(keyword, true);
+}
+
+void inp_TransformationVisitor::VisitDashpot(inp_Keyword& keyword) {
+    visitSpringOrDashpot(keyword, false);
+}
+
+// Only the types that act along a fixed direction need an orientation; the
+// type of the set's first element tells.
+void inp_TransformationVisitor::visitSpringOrDashpot(inp_Keyword& keyword, bool spring) {
+    if (guarded(keyword) || keyword.HasParameter("orientation")) return;
+    cow_String const set = keyword.GetParameterAsString("elset", cow_String());
+    if (!m_elementSets.HasNestedSet(scope(), set)) return;
+    cow_List<int> const ids = m_elementSets.ConstGetNestedSet(scope(), set)->ConstGetIdList();
+    if (ids.IsEmpty() || !m_elementMap.IsMember(scope()) ||
+        !m_elementMap.ConstGetMap(scope()).HasValue())
+        return;
+    inp_MapInt2Element const& elements = m_elementMap.ConstGet(scope());
+    if (!elements.IsMember(ids.ConstGet(0))) return;
+    cow_String const& type = elements.ConstGet(ids.ConstGet(0)).type();
+    if (type != "SPRING1" && type != "SPRING2" && type != "DASHPOT1" && type != "DASHPOT2") return;
+    addAuxiliaryOrientation(keyword, spring ? "spring_" : "dashpot_", "elset");
+}
