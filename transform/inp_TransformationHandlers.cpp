@@ -54,7 +54,8 @@ void inp_TransformationVisitor::VisitWave(inp_Keyword& keyword) {
     if (guarded(keyword)) return;
     cow_String const type = parameterOr(keyword, "type", "");
     if (type == "AIRY" || type == "STOKES") {
-        for (int row = 0; row < keyword.Data().Rows(); ++row) TransformSingleVector(keyword, row, 3);
+        for (int row = 0; row < keyword.Data().Rows(); ++row)
+            TransformSingleVector(keyword, row, 3);
     } else if (type == "GRIDDED") {
         TransformSinglePoint(keyword, 0, 0);
         TransformSingleVector(keyword, 0, 3);
@@ -135,7 +136,8 @@ void inp_TransformationVisitor::transformBeamDirection(inp_Keyword& keyword) {
     double direction[3] = {0.0, 0.0, -1.0};
     if (exists && data.Cols(row) > 0 && data.HasValue(row, 0))
         for (int k = 0; k < 3; ++k)
-            direction[k] = k < data.Cols(row) && data.HasValue(row, k) ? data.AsDouble(row, k) : 0.0;
+            direction[k] =
+                k < data.Cols(row) && data.HasValue(row, k) ? data.AsDouble(row, k) : 0.0;
     gsl_Vector vector(direction[0], direction[1], direction[2]);
     m_currentTransform.Transform(vector);
     ownData(keyword);
@@ -245,4 +247,76 @@ void inp_TransformationVisitor::visitSpringOrDashpot(inp_Keyword& keyword, bool 
     cow_String const& type = elements.ConstGet(ids.ConstGet(0)).type();
     if (type != "SPRING1" && type != "SPRING2" && type != "DASHPOT1" && type != "DASHPOT2") return;
     addAuxiliaryOrientation(keyword, spring ? "spring_" : "dashpot_", "elset");
+}
+
+// -- equations ------------------------------------------------------------------------
+
+cow_List<int> inp_TransformationVisitor::GetNodesFromNset(cow_String const& name) {
+    cow_List<int> nodes;
+    if (!m_nodeSets.HasNestedSet(scope(), name)) {
+        AddError(
+            atr("The node set %1$s given on *EQUATION data line does not exist in the "
+                "current instance %2$s",
+                name, scope()));
+        return nodes;
+    }
+    inpM_IdMap const* const ids =
+        m_nodeIdMap.IsMember(scope()) ? &m_nodeIdMap.ConstGet(scope()) : nullptr;
+    for (int label : m_nodeSets.ConstGetNestedSet(scope(), name)->ConstGetIdList())
+        nodes.Append(ids != nullptr && ids->IsMember(label) ? ids->ConstGet(label) : label);
+    return nodes;
+}
+
+// A line of three items or more names a node, or a node set, in columns 0,
+// 3, 6 and 9; the first line, the number of terms, names none.
+cow_List<int> inp_TransformationVisitor::GetNodesInvolved(inp_Keyword const& keyword) {
+    cow_List<int> nodes;
+    inp_DataArray const& data = keyword.Data();
+    inpM_IdMap const* const ids =
+        m_nodeIdMap.IsMember(scope()) ? &m_nodeIdMap.ConstGet(scope()) : nullptr;
+    for (int row = 0; row < data.Rows(); ++row) {
+        if (data.Cols(row) < 3) continue;
+        for (int column = 0; column < data.Cols(row) && column <= 9; column += 3) {
+            if (!data.HasValue(row, column)) continue;
+            inp_Types::typeEnm const type = data.Type(row, column);
+            if (type == inp_Types::inp_INTEGER) {
+                int const label = data.AsInt(row, column);
+                nodes.Append(ids != nullptr && ids->IsMember(label) ? ids->ConstGet(label) : label);
+            } else if (type == inp_Types::inp_STRING) {
+                for (int node : GetNodesFromNset(data.AsString(row, column))) nodes.Append(node);
+            } else {
+                AddError(inp_Utils::MessageInKeyword(
+                    keyword, atr("Equation data must consist of node numbers or node set names.")));
+            }
+        }
+    }
+    return nodes;
+}
+
+// Each node of an equation gets a *TRANSFORM of the global axes turned into
+// the instance, once: later equations of the same nodes add nothing. Only a
+// scope is asked for, so the equations of a part or an unmoved instance get
+// the axes as they are, which keeps every equation node's system explicit.
+void inp_TransformationVisitor::VisitEquation(inp_Keyword& keyword) {
+    if (scope().IsEmpty()) return;
+    cow_List<int> const involved = GetNodesInvolved(keyword);
+    if (!m_nonTransformedNodes.IsMember(scope()))
+        m_nonTransformedNodes.Insert(scope(), cow_List<int>());
+    ++m_setCounter;
+    cow_List<int>& handled = m_nonTransformedNodes.Get(scope());
+    std::unordered_set<int>& handledLookup = m_handledNodes[std::string(scope().View())];
+    cow_List<int> fresh;
+    for (int node : involved) {
+        if (m_transformNodeLookup.contains(node) || !handledLookup.insert(node).second) continue;
+        handled.Append(node);
+        fresh.Append(node);
+    }
+    if (fresh.IsEmpty()) return;
+    cow_String name("NONTRANSFORMED-");
+    name.append(cow_String::FromInt(m_setCounter));
+    m_nodeSets.InsertNestedSet(scope(), name, CreateSet(fresh, false, false));
+    inp_Keyword transform{cow_String("transform")};
+    transform.SetParameter("nset", inp_Item(name));
+    transform.Data().Append("1,0,0, 0,1,0");
+    AppendAuxiliary(TransformOrientationData(transform, true));
 }

@@ -15,7 +15,8 @@ inp_TransformationVisitor::inp_TransformationVisitor(
       m_elementMap(elementMap),
       m_elementSets(elementSets),
       m_flag(flag),
-      m_modelParameters(modelParameters) {}
+      m_modelParameters(modelParameters),
+      m_transformNodeLookup(transformNodes.begin(), transformNodes.end()) {}
 
 inp_TransformationVisitor::~inp_TransformationVisitor() = default;
 
@@ -165,8 +166,8 @@ inp_Keyword inp_TransformationVisitor::TransformOrientationData(inp_Keyword cons
     result.SetData(inp_DataArray());
     inp_DataArray const& data = keyword.Data();
     if (data.Rows() == 0) return result;
-    bool const named = data.Cols(0) > 0 && data.HasValue(0, 0) &&
-                       data.Type(0, 0) == inp_Types::inp_STRING;
+    bool const named =
+        data.Cols(0) > 0 && data.HasValue(0, 0) && data.Type(0, 0) == inp_Types::inp_STRING;
     if (named) {
         result.Data().Append(rowTexts(data, 0));
     } else {

@@ -17,12 +17,16 @@
 // of its own before anything is written, so that the other holder keeps
 // what it had.
 
+#include <map>
+#include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "mesh/inp_CoordMap.h"
 #include "mesh/inp_MapInt2Element.h"
 #include "pipeline/inp_ModelParameters.h"
 #include "pipeline/inp_Visitor.h"
+#include "support/cow_Map.h"
 #include "support/gsl_Matrix.h"
 #include "support/gsl_Point.h"
 #include "support/gsl_Vector.h"
@@ -38,8 +42,7 @@ class inp_TransformationVisitor : public inp_Visitor {
     // local to global labels by instance; `flag`: read by *SURFACE.
     inp_TransformationVisitor(inpM_InstanceMap<gsl_Matrix> const& transformations,
                               cow_List<int> const& transformNodes, inpM_SetMap& nodeSets,
-                              inpM_IdMap const& nodeIdMap, bool flag,
-                              inp_CoordMap const& coordMap,
+                              inpM_IdMap const& nodeIdMap, bool flag, inp_CoordMap const& coordMap,
                               inpM_InstanceMap<inp_MapInt2Element> const& elementMap,
                               inpM_SetMap const& elementSets,
                               inp_ModelParameters const& modelParameters);
@@ -83,6 +86,12 @@ class inp_TransformationVisitor : public inp_Visitor {
     void VisitTransform(inp_Keyword& keyword) override;
     void VisitWave(inp_Keyword& keyword) override;
     void VisitWind(inp_Keyword& keyword) override;
+    // inp_TransformationSurfaces.cpp: analytical and cutting surfaces, at
+    // every level and under any transform, once TYPE is given.
+    void VisitSurface(inp_Keyword& keyword) override;
+    void VisitRigidSurface(inp_Keyword& keyword) override { VisitSurface(keyword); }
+    // The nodes of an equation in an instance get a *TRANSFORM, once.
+    void VisitEquation(inp_Keyword& keyword) override;
 
     // -- shared operations --------------------------------------------------------------
 
@@ -91,6 +100,21 @@ class inp_TransformationVisitor : public inp_Visitor {
     // rotated as a vector, and written back over those three items.
     void TransformSinglePoint(inp_Keyword& keyword, int row, int column);
     void TransformSingleVector(inp_Keyword& keyword, int row, int column);
+    // The 2D point at (row, column), z = 0, transformed.
+    gsl_Point GetAndTransform2DPoint(inp_Keyword const& keyword, int row, int column) const;
+    // The first row whose first item is START, or the row count; the
+    // non-blank rows before it are counted in `leadingLines`.
+    static int GotoLineWithStart(inp_Keyword const& keyword, int& leadingLines);
+    // Rows from `firstRow` on appended to `to` as texts, empty items left out.
+    void CopyAppendDataLines(inp_Keyword const& from, int firstRow, inp_Keyword& to) const;
+    // a: the translation of the transform in force; b = a + its second
+    // axis; with c, b = a + the first axis and c = a - the third.
+    void ComputePointsABFromCoordSystem(gsl_Point& a, gsl_Point& b) const;
+    void ComputePointsABCFromCoordSystem(gsl_Point& a, gsl_Point& b, gsl_Point& c) const;
+    // The global labels of the nodes an *EQUATION names in the scope: each
+    // label through the scope's id map, each node set by its members.
+    cow_List<int> GetNodesInvolved(inp_Keyword const& keyword);
+    cow_List<int> GetNodesFromNset(cow_String const& name);
     // A copy with the same parameters and suboptions whose row 0, unless it
     // starts with a name, holds the points a, b (and c) rotated
     // (`vectorsOnly`) or transformed; the other rows as they were.
@@ -120,6 +144,12 @@ class inp_TransformationVisitor : public inp_Visitor {
     void transformBeamDirection(inp_Keyword& keyword);
     // *SPRING and *DASHPOT of the types that need an orientation.
     void visitSpringOrDashpot(inp_Keyword& keyword, bool spring);
+    // The data of a CYLINDER or REVOLUTION surface, or of a SEGMENTS one
+    // (false for an unknown shape), written into `rewritten`.
+    void rewriteLocalSystem(inp_Keyword const& keyword, bool cylinder, int start, int leadingLines,
+                            inp_Keyword& rewritten);
+    bool rewriteSegments(inp_Keyword const& keyword, int start, int leadingLines,
+                         inp_Keyword& rewritten);
 
     gsl_Matrix m_currentTransform;
     std::vector<cow_List<inp_Keyword>> m_keywordStack;  // auxiliary keywords per frame
@@ -133,7 +163,12 @@ class inp_TransformationVisitor : public inp_Visitor {
     inpM_SetMap m_elementSets;
     int m_setCounter = 0;
     bool m_flag;
+    cow_Map<cow_String, cow_List<int>> m_nonTransformedNodes;  // per instance, for *EQUATION
+    // The same, and the transform nodes, for lookups that stay cheap
+    // however many equations a deck has.
+    std::map<std::string, std::unordered_set<int>> m_handledNodes;
     inp_ModelParameters m_modelParameters;
+    std::unordered_set<int> m_transformNodeLookup;
 
   private:
     // Up to three doubles of a row from `column` on, 0.0 where it has none.

@@ -66,7 +66,8 @@ class Transformation : public ::testing::Test {
     static std::string row(inp_Keyword const& keyword, int row) {
         std::string text;
         for (int column = 0; column < keyword.Data().Cols(row); ++column)
-            text += (column ? "," : "") + std::string(keyword.Data().AsStringVerbatim(row, column).View());
+            text += (column ? "," : "") +
+                    std::string(keyword.Data().AsStringVerbatim(row, column).View());
         return text;
     }
 
@@ -90,7 +91,7 @@ TEST_F(Transformation, PointsMoveAndDirectionsTurnInMovedInstancesOnly) {
     EXPECT_EQ(row(in(model, 0, 0), 0), "1.,10,1,0");
     EXPECT_EQ(row(in(model, 0, 1), 0), "1.,1.,0.,0.");
     EXPECT_EQ(row(in(model, 0, 2), 0), "0.5,0,1,0");
-    EXPECT_EQ(row(in(model, 2, 0), 0), "1.,1.,0.,0.");  // STILL
+    EXPECT_EQ(row(in(model, 2, 0), 0), "1.,1.,0.,0.");   // STILL
     EXPECT_EQ(row(in(model, -1, 0), 0), "1.,1.,0.,0.");  // the part
     // A copy made before the walk kept its data.
     EXPECT_EQ(row(in(before, 0, 0), 0), "1.,1.,0.,0.");
@@ -125,7 +126,8 @@ TEST_F(Transformation, KeywordsOnTheGlobalAxesGetAnOrientationOfTheirOwn) {
     walk(model);
     inp_Keyword const& moved = model.ConstGet(1).Suboptions().ConstGet(0);
     ASSERT_EQ(moved.Suboptions().Length(), 4 + 2);  // three, *END INSTANCE, two added
-    EXPECT_EQ(in(model, 0, 0).GetParameterAsString("orientation", "").View(), "Kinematic-Coupling_5");
+    EXPECT_EQ(in(model, 0, 0).GetParameterAsString("orientation", "").View(),
+              "Kinematic-Coupling_5");
     EXPECT_EQ(in(model, 0, 2).GetParameterAsString("orientation", "").View(), "MINE");
     for (int added : {4, 5}) {
         inp_Keyword const& orientation = in(model, 0, added);
@@ -186,4 +188,50 @@ TEST(TransformationTolerance, NoiseBesideTheLargestComponentBecomesZero) {
         inp_TransformationVisitor::ZeroSmallerThanTolerance(gsl_Vector(1.0, -1.2e-17, 0.5));
     EXPECT_EQ(cleaned.Y(), 0.0);
     EXPECT_EQ(cleaned.Z(), 0.5);
+}
+
+// The outline of a segments surface moves in its plane; the local system
+// of a cylinder is written from the instance's position; an unknown shape
+// leaves the keyword as it was.
+TEST_F(Transformation, AnalyticalSurfacesMoveWithTheInstance) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*SURFACE, NAME=OUTLINE, TYPE=SEGMENTS\nSTART, 1., 0.\nLINE, 1., 1.\nCIRCL, 2., 0., 1., "
+        "0.\n"
+        "*SURFACE, NAME=TUBE, TYPE=CYLINDER\nSTART, 1., 0.\nLINE, 1., 1.\n"
+        "*SURFACE, NAME=ODD, TYPE=SEGMENTS\nSTART, 0., 0.\nARC, 1., 1.\n");
+    walk(model);
+    inp_Keyword const& outline = in(model, 0, 0);  // MOVED: a quarter about z, 10 along x
+    ASSERT_EQ(outline.Data().Rows(), 3);
+    EXPECT_EQ(row(outline, 0), "START,10,1");
+    EXPECT_EQ(row(outline, 1), "LINE,9,1");
+    EXPECT_EQ(row(outline, 2), "CIRCL,10,2,10,1");
+    inp_Keyword const& tube = in(model, 0, 1);
+    ASSERT_EQ(tube.Data().Rows(), 4);
+    EXPECT_EQ(row(tube, 0), "10,0,0,10,1,0");  // a, and b along the turned x axis
+    EXPECT_EQ(row(tube, 1), "10,0,-1");        // c, against the turned z axis
+    EXPECT_EQ(row(tube, 2), "START,1.,0.");
+    EXPECT_EQ(row(in(model, 0, 2), 1), "ARC,1.,1.");
+    EXPECT_NE(errors.find("The unknown shape in question is: ARC"), std::string::npos) << errors;
+}
+
+// The nodes of an equation get one *TRANSFORM, under a set of their own; a
+// second equation of the same nodes adds nothing. The walk asks only for a
+// scope here: an unmoved part gets the global axes as they are.
+TEST_F(Transformation, EquationNodesGetATransformOnce) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*EQUATION\n2\n1, 1, 1., 2, 1, -1.\n"
+        "*EQUATION\n2\n2, 2, 1., 1, 2, -1.\n");
+    walk(model);
+    inp_Keyword const& moved = model.ConstGet(1).Suboptions().ConstGet(0);
+    ASSERT_EQ(moved.Suboptions().Length(), 2 + 1 + 1);  // two, *END INSTANCE, one added
+    inp_Keyword const& transform = moved.Suboptions().ConstGet(3);
+    EXPECT_TRUE(transform.Is(inp_kw_Transform));
+    cow_String const set = transform.GetParameterAsString("nset", "");
+    EXPECT_EQ(set.View().substr(0, 15), "NONTRANSFORMED-");
+    EXPECT_EQ(row(transform, 0), "0,1,0,-1,0,0");
+    ASSERT_TRUE(nodeSets.HasNestedSet(cow_String("MOVED"), set));
+    EXPECT_EQ(nodeSets.ConstGetNestedSet(cow_String("MOVED"), set)->ConstGetIdList().Length(), 2);
+    inp_Keyword const& part = model.ConstGet(0);
+    ASSERT_EQ(part.Suboptions().Length(), 4);
+    EXPECT_EQ(row(part.Suboptions().ConstGet(3), 0), "1,0,0,0,1,0");
 }
