@@ -3,8 +3,11 @@
 // rows count from 0.
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <numbers>
 
+#include "mesh/inp_Coord.h"
 #include "mesh/inp_Utils.h"
 #include "transform/inp_TransformationVisitor.h"
 
@@ -154,14 +157,151 @@ void inp_TransformationVisitor::transformBeamDirection(inp_Keyword& keyword) {
 
 // -- local systems ----------------------------------------------------------------------
 
-// A definition by coordinates turns whole. The definition by nodes of the
-// local system is not rewritten here: it is left as written.
+// A definition by coordinates turns whole; one by nodes becomes one by
+// coordinates first. Other definitions are left as written.
 void inp_TransformationVisitor::VisitOrientation(inp_Keyword& keyword) {
     if (guarded(keyword)) return;
-    if (parameterOr(keyword, "definition", "COORDINATES") != "COORDINATES") return;
+    cow_String const definition = parameterOr(keyword, "definition", "COORDINATES");
     cow_String const system = parameterOr(keyword, "system", "RECTANGULAR");
     bool const vectorsOnly = system == "RECTANGULAR" || system == "ZRECTANGULAR";
-    keyword = TransformOrientationData(keyword, vectorsOnly);
+    if (definition == "NODES") {
+        orientationByNodes(keyword, vectorsOnly);
+    } else if (definition == "COORDINATES") {
+        keyword = TransformOrientationData(keyword, vectorsOnly);
+    }
+}
+
+int inp_TransformationVisitor::globalNode(int local) const {
+    if (!m_nodeIdMap.IsMember(scope())) return 0;
+    inpM_IdMap const& ids = m_nodeIdMap.ConstGet(scope());
+    return ids.IsMember(local) ? ids.ConstGet(local) : 0;
+}
+
+bool inp_TransformationVisitor::localPosition(int global, gsl_Point& point) const {
+    if (!m_coordMap.IsMember(scope())) return false;
+    inp_CoordMap const& nodes = m_coordMap.ConstGet(scope());
+    if (!nodes.IsMember(global)) return false;
+    inp_Coord const node = nodes.ConstGet(global);
+    gsl_Matrix inverse;
+    m_currentTransform.InverseRigidTransform(inverse);
+    point = gsl_Point(node.x, node.y, node.z);
+    inverse.Transform(point);
+    return true;
+}
+
+bool inp_TransformationVisitor::orientationByNodes(inp_Keyword& keyword, bool vectorsOnly) {
+    inp_DataArray const& data = keyword.Data();
+    auto const integerAt = [&](int column) {
+        return column < data.Cols(0) && data.HasValue(0, column) &&
+               data.Type(0, column) == inp_Types::inp_INTEGER;
+    };
+    if (!integerAt(0) || !integerAt(1)) {
+        AddError(inp_Utils::MessageInKeyword(
+            keyword, atr("The first data line under *ORIENTATION, DEFINITION=NODES is "
+                         "unrecognizable as a pair of node numbers for points A and B. ")));
+        return false;
+    }
+    bool const withC = data.Cols(0) > 2 && data.HasValue(0, 2);
+    if (withC && !integerAt(2)) {
+        AddError(inp_Utils::MessageInKeyword(
+            keyword, atr("Node number for point C in the first data line under *ORIENTATION, "
+                         "DEFINITION=NODES is unrecognizable.")));
+        return false;
+    }
+    gsl_Point points[3];
+    for (int p = 0; p < (withC ? 3 : 2); ++p) {
+        int const global = globalNode(data.AsInt(0, p));
+        if (global == 0 || !localPosition(global, points[p])) {
+            AddError(inp_Utils::MessageInKeyword(
+                keyword,
+                p < 2 ? atr("Unknown local node number %1$s or %2$s is encountered during the "
+                            "processing of *ORIENTATION, DEFINITION=NODES. ",
+                            data.AsStringVerbatim(0, 0), data.AsStringVerbatim(0, 1))
+                      : atr("Unknown local node number %1$s for point C is encountered during "
+                            "the processing of *ORIENTATION, DEFINITION=NODES. ",
+                            data.AsStringVerbatim(0, 2))));
+            return false;
+        }
+    }
+    inp_Keyword byCoordinates = keyword;
+    byCoordinates.SetParameter("definition", inp_Item(cow_String("COORDINATES")));
+    byCoordinates.SetData(inp_DataArray());
+    cow_List<cow_String> items;
+    for (int p = 0; p < (withC ? 3 : 2); ++p)
+        for (double value : {points[p].x, points[p].y, points[p].z})
+            items.Append(cow_String::FromDouble(value));
+    byCoordinates.Data().Append(items);
+    for (int row = 1; row < data.Rows(); ++row) {
+        cow_List<cow_String> kept;
+        for (int column = 0; column < data.Cols(row); ++column)
+            if (data.HasValue(row, column)) kept.Append(data.AsStringVerbatim(row, column));
+        byCoordinates.Data().Append(kept);
+    }
+    keyword = TransformOrientationData(byCoordinates, vectorsOnly);
+    return true;
+}
+
+// The base angles come from atan2, so that a node of negative x has its own
+// quadrant: from atan(y / x) a zero displacement there would turn into a
+// jump across the axis.
+void inp_TransformationVisitor::DifferentialCylindricalConversion(double& dr, double& dtheta,
+                                                                  gsl_Point const& node) const {
+    double const r = std::sqrt(node.x * node.x + node.y * node.y);
+    double const theta = std::atan2(node.y, node.x) * 180.0 / std::numbers::pi;
+    inp_Coord::DifferentialCylindricalConversion(r, theta, dr, dtheta);
+}
+
+void inp_TransformationVisitor::DifferentialSphericalConversion(double& dr, double& dtheta,
+                                                                double& dphi,
+                                                                gsl_Point const& node) const {
+    double const r = std::sqrt(node.x * node.x + node.y * node.y + node.z * node.z);
+    double const theta = std::atan2(node.y, node.x) * 180.0 / std::numbers::pi;
+    double const phi = r > 0.0 ? std::asin(node.z / r) * 180.0 / std::numbers::pi : 0.0;
+    inp_Coord::DifferentialSphericalConversion(r, theta, phi, dr, dtheta, dphi);
+}
+
+// A displacement per node, in the system SYSTEM gives, becomes a Cartesian
+// one turned into the instance; SYSTEM goes. A fault ends the keyword with
+// its old data.
+void inp_TransformationVisitor::VisitImperfection(inp_Keyword& keyword) {
+    if (guarded(keyword) || keyword.HasParameter("file") || keyword.HasParameter("input")) return;
+    cow_String const system = parameterOr(keyword, "system", "R");
+    inp_DataArray const& data = keyword.Data();
+    inp_DataArray rewritten;
+    for (int row = 0; row < data.Rows(); ++row) {
+        if (data.Cols(row) == 0 || !data.HasValue(row, 0)) continue;
+        if (data.Type(row, 0) != inp_Types::inp_INTEGER) {
+            AddError(inp_Utils::MessageInKeyword(
+                keyword, atr("A column one data item under *IMPERFECTION is unrecognizable as a "
+                             "node number. The item in question is: %1$s",
+                             data.AsStringVerbatim(row, 0))));
+            return;
+        }
+        int const global = globalNode(data.AsInt(row, 0));
+        gsl_Point node;
+        if (global == 0 || !localPosition(global, node)) {
+            AddError(inp_Utils::MessageInKeyword(
+                keyword, atr("Unknown local node number %1$s is encountered during the "
+                             "processing of *IMPERFECTION. ",
+                             data.AsStringVerbatim(row, 0))));
+            return;
+        }
+        double d[3];
+        for (int k = 0; k < 3; ++k)
+            d[k] = 1 + k < data.Cols(row) && data.HasValue(row, 1 + k) ? data.AsDouble(row, 1 + k)
+                                                                        : 0.0;
+        if (system == "C") DifferentialCylindricalConversion(d[0], d[1], node);
+        if (system == "S") DifferentialSphericalConversion(d[0], d[1], d[2], node);
+        gsl_Vector displacement(d[0], d[1], d[2]);
+        m_currentTransform.Transform(displacement);
+        cow_List<cow_String> items;
+        items.Append(data.AsStringVerbatim(row, 0));
+        for (double value : {displacement.X(), displacement.Y(), displacement.Z()})
+            items.Append(cow_String::FromDouble(value));
+        rewritten.Append(items);
+    }
+    keyword.SetData(rewritten);
+    keyword.RemoveParameter("system");
 }
 
 // A rectangular system turns; a cylindrical or spherical one is given by

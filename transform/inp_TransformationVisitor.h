@@ -84,6 +84,7 @@ class inp_TransformationVisitor : public inp_Visitor {
     void VisitSolidSection(inp_Keyword& keyword) override;
     void VisitSpring(inp_Keyword& keyword) override;
     void VisitTransform(inp_Keyword& keyword) override;
+    void VisitImperfection(inp_Keyword& keyword) override;
     void VisitWave(inp_Keyword& keyword) override;
     void VisitWind(inp_Keyword& keyword) override;
     // inp_TransformationSurfaces.cpp: analytical and cutting surfaces, at
@@ -144,6 +145,20 @@ class inp_TransformationVisitor : public inp_Visitor {
     void transformBeamDirection(inp_Keyword& keyword);
     // *SPRING and *DASHPOT of the types that need an orientation.
     void visitSpringOrDashpot(inp_Keyword& keyword, bool spring);
+    // *ORIENTATION, DEFINITION=NODES made a definition by coordinates, the
+    // positions of its nodes in the frame of the part; false after an error.
+    bool orientationByNodes(inp_Keyword& keyword, bool vectorsOnly);
+    // The global label of a local node of the scope, or 0 when the id map
+    // lacks it.
+    int globalNode(int local) const;
+    // The position of a global node of the scope in the frame of the part.
+    bool localPosition(int global, gsl_Point& point) const;
+    // The differential conversions of a displacement given in a cylindrical
+    // or spherical system at `node`, whose position is brought back into
+    // the frame of the part first.
+    void DifferentialCylindricalConversion(double& dr, double& dtheta, gsl_Point const& node) const;
+    void DifferentialSphericalConversion(double& dr, double& dtheta, double& dphi,
+                                         gsl_Point const& node) const;
     // The data of a CYLINDER or REVOLUTION surface, or of a SEGMENTS one
     // (false for an unknown shape), written into `rewritten`.
     void rewriteLocalSystem(inp_Keyword const& keyword, bool cylinder, int start, int leadingLines,

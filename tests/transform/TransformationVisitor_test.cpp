@@ -235,3 +235,63 @@ TEST_F(Transformation, EquationNodesGetATransformOnce) {
     ASSERT_EQ(part.Suboptions().Length(), 4);
     EXPECT_EQ(row(part.Suboptions().ConstGet(3), 0), "1,0,0,0,1,0");
 }
+
+// Local node 1 of MOVED is global 101 at local (1, 0, 0), local 2 global 102
+// at local (0, 1, 0); the map holds them where the instance put them.
+class TransformationByNodes : public Transformation {
+  protected:
+    void walkWithNodes(cow_List<inp_Keyword>& model) {
+        inpM_IdMap local;
+        local.Insert(1, 101);
+        local.Insert(2, 102);
+        inpM_IdMap ids;
+        ids.Insert(cow_String("MOVED"), local);
+        inp_CoordMap placed;
+        placed.Insert(101, inp_Coord(10., 1., 0.));
+        placed.Insert(102, inp_Coord(9., 0., 0.));
+        inp_CoordMap nodes;
+        nodes.Insert(cow_String("MOVED"), placed);
+        inp_TransformationVisitor visitor(transforms(), cow_List<int>(), nodeSets, ids, false,
+                                          nodes, elements, elementSets, inp_ModelParameters());
+        visitor.VisitList(model);
+        errors = std::string(visitor.Errors().View());
+    }
+};
+
+// A system by nodes becomes one by coordinates, turned; unknown nodes are
+// reported and the keyword stays as written.
+TEST_F(TransformationByNodes, AnOrientationByNodesBecomesOneByCoordinates) {
+    cow_List<inp_Keyword> model =
+        modelWith("*ORIENTATION, NAME=BYNODES, DEFINITION=NODES\n1, 2\n3, 5.\n"
+                  "*ORIENTATION, NAME=LOST, DEFINITION=NODES\n1, 7\n");
+    walkWithNodes(model);
+    inp_Keyword const& orientation = in(model, 0, 0);
+    EXPECT_EQ(orientation.GetParameterAsString("definition", "").View(), "COORDINATES");
+    EXPECT_EQ(row(orientation, 0), "0,1,0,-1,0,0");
+    EXPECT_EQ(row(orientation, 1), "3,5.");
+    EXPECT_EQ(row(in(model, 0, 1), 0), "1,7");
+    EXPECT_NE(errors.find("Unknown local node number 1 or 7 is encountered"), std::string::npos)
+        << errors;
+}
+
+// A displacement given in a cylindrical system at a node becomes the
+// Cartesian one, turned with the instance; SYSTEM goes.
+TEST_F(TransformationByNodes, ImperfectionsTurnWithTheirNodes) {
+    cow_List<inp_Keyword> model = modelWith(
+        "*IMPERFECTION, SYSTEM=C\n1, 0.5, 90., 0.\n"
+        "*IMPERFECTION\n2, 0.1, 0., 0.\n"
+        "*IMPERFECTION\n9, 0.1, 0., 0.\n");
+    walkWithNodes(model);
+    inp_Keyword const& cylindrical = in(model, 0, 0);
+    EXPECT_FALSE(cylindrical.HasParameter("system"));
+    // (1, 0) moved to radius 1.5 at 90 degrees is (-1, 1.5); a quarter turn
+    // about z makes it (-1.5, -1).
+    EXPECT_NEAR(cylindrical.Data().AsDouble(0, 1), -1.5, 1e-12);
+    EXPECT_NEAR(cylindrical.Data().AsDouble(0, 2), -1.0, 1e-12);
+    EXPECT_EQ(row(in(model, 0, 1), 0), "2,0,0.1,0");
+    EXPECT_EQ(row(in(model, 0, 2), 0), "9,0.1,0.,0.");
+    EXPECT_NE(errors.find("Unknown local node number 9 is encountered during the processing of "
+                          "*IMPERFECTION. "),
+              std::string::npos)
+        << errors;
+}
