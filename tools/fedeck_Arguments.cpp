@@ -54,7 +54,7 @@ bool takesOption(fedeck_Command command, std::string_view option) {
                    option == "--max-diagnostics" || option == "--restart-from";
         case fedeck_Command::Tree:
             return option == "--include-dir" || option == "--until" ||
-                   option == "--max-diagnostics";
+                   option == "--max-diagnostics" || option == "--global";
         case fedeck_Command::Model:
             return option == "--include-dir" || option == "--until" || option == "--restart-from";
         case fedeck_Command::Encrypt:
@@ -68,7 +68,8 @@ bool takesOption(fedeck_Command command, std::string_view option) {
 
 bool isKnownOption(std::string_view option) {
     return option == "--include-dir" || option == "--until" || option == "--json" ||
-           option == "--password" || option == "--max-diagnostics" || option == "--restart-from";
+           option == "--password" || option == "--max-diagnostics" || option == "--restart-from" ||
+           option == "--global";
 }
 
 class ArgumentReader {
@@ -102,10 +103,10 @@ class ArgumentReader {
         if (!takesOption(m_form.command, name))
             throw fedeck_UsageError("option '" + std::string(name) + "' does not apply to '" +
                                     std::string(m_form.name) + "'");
-        if (name == "--json") {
+        if (name == "--json" || name == "--global") {
             if (equals != std::string_view::npos)
-                throw fedeck_UsageError("option '--json' takes no value");
-            m_result.json = true;
+                throw fedeck_UsageError("option '" + std::string(name) + "' takes no value");
+            (name == "--json" ? m_result.json : m_result.global) = true;
             return;
         }
         std::string const value = equals != std::string_view::npos
@@ -153,6 +154,10 @@ class ArgumentReader {
         if (m_result.operands.size() != m_form.operandCount)
             throw fedeck_UsageError("'" + std::string(m_form.name) + "' needs " +
                                     std::string(m_form.operandNames));
+        if (m_result.global && !m_result.until.empty())
+            throw fedeck_UsageError(
+                "'--until' does not apply to 'tree --global', which runs "
+                "the whole road");
         if (!m_result.restartFrom.empty() && !m_result.until.empty())
             throw fedeck_UsageError(
                 "'--until' does not apply to a continuation job ('--restart-from')");

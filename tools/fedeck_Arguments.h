@@ -18,6 +18,8 @@ struct fedeck_Arguments {
     std::string includeDir;
     std::string until;  // empty: run every stage
     bool json = false;
+    // tree: the keyword data of moved instances in the global frame.
+    bool global = false;
     // check and tree: the diagnostics printed as text, at the most; -1 for
     // all of them. The JSON form always has all.
     int maxDiagnostics = -1;

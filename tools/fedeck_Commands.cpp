@@ -15,6 +15,7 @@
 #include "tables/inp_ContactCheck.h"
 #include "tools/fedeck_Arguments.h"
 #include "tools/fedeck_Encrypt.h"
+#include "tools/fedeck_Global.h"
 #include "tools/fedeck_Model.h"
 #include "tools/fedeck_Pipeline.h"
 #include "tools/fedeck_Report.h"
@@ -190,6 +191,25 @@ int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
     });
 }
 
+// The converter's tree walked with the maps of the whole road: the road's
+// diagnostics, then those of the walk; the converter's own repeat the
+// road's and are left out.
+int runGlobalTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
+    CheckedDeck const road(arguments, lastStageToRun(std::string()));
+    fedeck_Report const roadReport = road.Report();
+    roadReport.WriteDiagnostics(err, arguments.maxDiagnostics);
+    int status = exitStatusOf(roadReport);
+    CheckedDeck const converted(arguments, CheckedDeck::ConverterRoad{});
+    thr_ThreadSingleton<wip_WIP>::Instance().Clear();
+    cow_List<inp_Keyword> tree = converted.Deck().Keywords();
+    fedeck_TransformToGlobal(tree, road.Deck());
+    fedeck_Report const walkReport = converted.Report();
+    walkReport.WriteDiagnostics(err, arguments.maxDiagnostics);
+    if (walkReport.HasErrors()) status = fedeck_EXIT_ERRORS;
+    inp_DeckWriter(out).Write(tree);
+    return status;
+}
+
 // The keyword list goes out even when the deck has errors: what could be read
 // is often what the user wants to see. By default it is the converter's
 // tree, a flat deck shown as its generated part, instance and assembly.
@@ -203,6 +223,7 @@ int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& er
         inp_DeckWriter(out).Write(checked.Deck().Keywords());
         return exitStatusOf(report);
     };
+    if (arguments.global) return runGlobalTree(arguments, out, err);
     if (arguments.until.empty()) return write(CheckedDeck(arguments, CheckedDeck::ConverterRoad{}));
     return write(CheckedDeck(arguments, lastStageToRun(arguments.until)));
 }
@@ -269,7 +290,8 @@ std::string fedeck_UsageText() {
            "               DECK\n"
            "  fedeck check --restart-from EARLIER [--include-dir DIR] [--json]\n"
            "               [--max-diagnostics N] DECK\n"
-           "  fedeck tree  [--include-dir DIR] [--until STAGE] [--max-diagnostics N] DECK\n"
+           "  fedeck tree  [--include-dir DIR] [--until STAGE | --global] [--max-diagnostics N]\n"
+           "               DECK\n"
            "  fedeck model [--include-dir DIR] [--until STAGE | --restart-from EARLIER] DECK\n"
            "  fedeck encrypt --password P IN OUT\n"
            "  fedeck help | --help\n"
@@ -327,6 +349,11 @@ std::string fedeck_UsageText() {
            "                     then not run); DECK is parsed and expanded, takes\n"
            "                     EARLIER's model, and its new sets and surfaces are\n"
            "                     read against EARLIER's names (stage \"inherit-part-map\")\n"
+           "  --global           tree: runs the whole road, then writes the converter's\n"
+           "                     tree with the data of every moved instance in the global\n"
+           "                     frame (points moved, directions and tensors turned, an\n"
+           "                     *ORIENTATION or *TRANSFORM added where a keyword leans on\n"
+           "                     the global axes, with the node sets they need)\n"
            "  --password P       password of the encrypted file (not empty)\n"
            "\n"
            "Exit status:\n"

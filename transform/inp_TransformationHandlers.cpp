@@ -171,8 +171,10 @@ void inp_TransformationVisitor::VisitOrientation(inp_Keyword& keyword) {
     }
 }
 
+// A model whose nodes were not renumbered has no map for the scope: its
+// labels stand as they are.
 int inp_TransformationVisitor::globalNode(int local) const {
-    if (!m_nodeIdMap.IsMember(scope())) return 0;
+    if (!m_nodeIdMap.IsMember(scope())) return local;
     inpM_IdMap const& ids = m_nodeIdMap.ConstGet(scope());
     return ids.IsMember(local) ? ids.ConstGet(local) : 0;
 }
@@ -289,7 +291,7 @@ void inp_TransformationVisitor::VisitImperfection(inp_Keyword& keyword) {
         double d[3];
         for (int k = 0; k < 3; ++k)
             d[k] = 1 + k < data.Cols(row) && data.HasValue(row, 1 + k) ? data.AsDouble(row, 1 + k)
-                                                                        : 0.0;
+                                                                       : 0.0;
         if (system == "C") DifferentialCylindricalConversion(d[0], d[1], node);
         if (system == "S") DifferentialSphericalConversion(d[0], d[1], d[2], node);
         gsl_Vector displacement(d[0], d[1], d[2]);

@@ -149,15 +149,16 @@ bool inp_TransformationVisitor::rewriteSegments(inp_Keyword const& keyword, int 
         bool const blank = data.Cols(row) == 0 || !data.HasValue(row, 0);
         if (blank) continue;
         cow_String const shape = row == start ? cow_String("START") : data.AsString(row, 0);
-        int const points = shape == "START" || shape == "LINE" ? 1
+        int const points = shape == "START" || shape == "LINE"    ? 1
                            : shape == "CIRCL" || shape == "PARAB" ? 2
                                                                   : 0;
         if (points == 0) {
             AddError(inp_Utils::MessageInKeyword(
-                keyword, atr("Error in the data lines of *SURFACE, TYPE=SEGMENTS.  The shape (first "
-                             "column) must be either LINE, CIRCL, or PARAB.  The unknown shape in "
-                             "question is: %1$s",
-                             shape)));
+                keyword,
+                atr("Error in the data lines of *SURFACE, TYPE=SEGMENTS.  The shape (first "
+                    "column) must be either LINE, CIRCL, or PARAB.  The unknown shape in "
+                    "question is: %1$s",
+                    shape)));
             return false;
         }
         cow_List<cow_String> items;

@@ -439,3 +439,28 @@ TEST_F(FedeckProgram, ARestartIsCheckedAgainstTheModelOfTheEarlierDeck) {
     EXPECT_NE(withUntil.err.find("'--until' does not apply to a continuation job"),
               std::string::npos);
 }
+
+// The converter's tree in the global frame: a moved instance's local
+// system turned, its equation nodes given a *TRANSFORM and the set it
+// names; an instance that stays is written as it was. What comes out reads
+// back clean.
+TEST_F(FedeckProgram, TreeGlobalWritesMovedInstancesInTheGlobalFrame) {
+    write("deck.inp",
+          "*PART, NAME=P\n*NODE\n1, 0., 0., 0.\n2, 1., 0., 0.\n"
+          "*ELEMENT, TYPE=T3D2, ELSET=E\n1, 1, 2\n*SOLID SECTION, ELSET=E, MATERIAL=M\n"
+          "1.\n*END PART\n*ASSEMBLY, NAME=A\n*INSTANCE, NAME=I, PART=P\n10., 0., 0.\n"
+          "0., 0., 0., 0., 0., 1., 90.\n*ORIENTATION, NAME=OR\n1., 0., 0., 0., 1., 0.\n"
+          "*EQUATION\n2\n1, 1, 1., 2, 1, -1.\n*END INSTANCE\n"
+          "*INSTANCE, NAME=J, PART=P\n*ORIENTATION, NAME=OJ\n1., 0., 0., 0., 1., 0.\n"
+          "*END INSTANCE\n*END ASSEMBLY\n*MATERIAL, NAME=M\n*ELASTIC\n1., 0.3\n");
+    Outcome const tree = run({"tree", "--global", "deck.inp"});
+    EXPECT_EQ(tree.status, 0) << tree.err;
+    for (char const* expected :
+         {"*NSET, NSET=NONTRANSFORMED-1\n1,2\n*ORIENTATION, NAME=OR\n0,1,0,-1,0,0\n",
+          "*TRANSFORM, NSET=NONTRANSFORMED-1\n0,1,0,-1,0,0\n*END INSTANCE\n",
+          "*ORIENTATION, NAME=OJ\n1., 0., 0., 0., 1., 0.\n"})
+        EXPECT_NE(tree.out.find(expected), std::string::npos) << expected << "\n" << tree.out;
+    write("global.inp", tree.out);
+    EXPECT_EQ(run({"check", "global.inp"}).status, 0);
+    EXPECT_EQ(run({"tree", "--global", "--until", "parse", "deck.inp"}).status, 2);
+}

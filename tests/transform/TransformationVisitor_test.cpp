@@ -261,9 +261,9 @@ class TransformationByNodes : public Transformation {
 // A system by nodes becomes one by coordinates, turned; unknown nodes are
 // reported and the keyword stays as written.
 TEST_F(TransformationByNodes, AnOrientationByNodesBecomesOneByCoordinates) {
-    cow_List<inp_Keyword> model =
-        modelWith("*ORIENTATION, NAME=BYNODES, DEFINITION=NODES\n1, 2\n3, 5.\n"
-                  "*ORIENTATION, NAME=LOST, DEFINITION=NODES\n1, 7\n");
+    cow_List<inp_Keyword> model = modelWith(
+        "*ORIENTATION, NAME=BYNODES, DEFINITION=NODES\n1, 2\n3, 5.\n"
+        "*ORIENTATION, NAME=LOST, DEFINITION=NODES\n1, 7\n");
     walkWithNodes(model);
     inp_Keyword const& orientation = in(model, 0, 0);
     EXPECT_EQ(orientation.GetParameterAsString("definition", "").View(), "COORDINATES");
