@@ -9,6 +9,7 @@
 
 #include "mesh/inp_Coord.h"
 #include "mesh/inp_Utils.h"
+#include "tables/inp_DistributionTableDB.h"
 #include "transform/inp_TransformationVisitor.h"
 
 namespace {
@@ -292,14 +293,10 @@ void inp_TransformationVisitor::VisitImperfection(inp_Keyword& keyword) {
         for (int k = 0; k < 3; ++k)
             d[k] = 1 + k < data.Cols(row) && data.HasValue(row, 1 + k) ? data.AsDouble(row, 1 + k)
                                                                        : 0.0;
-        if (system == "C") DifferentialCylindricalConversion(d[0], d[1], node);
-        if (system == "S") DifferentialSphericalConversion(d[0], d[1], d[2], node);
-        gsl_Vector displacement(d[0], d[1], d[2]);
-        m_currentTransform.Transform(displacement);
+        turnDisplacement(system, node, d);
         cow_List<cow_String> items;
         items.Append(data.AsStringVerbatim(row, 0));
-        for (double value : {displacement.X(), displacement.Y(), displacement.Z()})
-            items.Append(cow_String::FromDouble(value));
+        for (double value : d) items.Append(cow_String::FromDouble(value));
         rewritten.Append(items);
     }
     keyword.SetData(rewritten);
@@ -461,4 +458,125 @@ void inp_TransformationVisitor::VisitEquation(inp_Keyword& keyword) {
     transform.SetParameter("nset", inp_Item(name));
     transform.Data().Append("1,0,0, 0,1,0");
     AppendAuxiliary(TransformOrientationData(transform, true));
+}
+
+void inp_TransformationVisitor::turnDisplacement(cow_String const& system, gsl_Point const& node,
+                                                 double (&d)[3]) const {
+    if (system == "C") DifferentialCylindricalConversion(d[0], d[1], node);
+    if (system == "S") DifferentialSphericalConversion(d[0], d[1], d[2], node);
+    gsl_Vector displacement(d[0], d[1], d[2]);
+    m_currentTransform.Transform(displacement);
+    d[0] = displacement.X();
+    d[1] = displacement.Y();
+    d[2] = displacement.Z();
+}
+
+// Each line, a node or a node set of the scope (a set gives a line per
+// member), then two triples of variations in SYSTEM, made Cartesian and
+// turned. A fault ends the keyword with its old data.
+void inp_TransformationVisitor::VisitParameterShapeVariation(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    cow_String const system = parameterOr(keyword, "system", "R");
+    inp_DataArray const& data = keyword.Data();
+    inp_DataArray rewritten;
+    for (int row = 0; row < data.Rows(); ++row) {
+        if (data.Cols(row) == 0 || !data.HasValue(row, 0)) continue;
+        cow_List<int> locals;
+        inp_Types::typeEnm const type = data.Type(row, 0);
+        cow_String const item = data.AsStringVerbatim(row, 0);
+        if (type == inp_Types::inp_INTEGER) {
+            locals.Append(data.AsInt(row, 0));
+        } else if (type == inp_Types::inp_STRING) {
+            cow_String const set = data.AsString(row, 0);
+            if (!m_nodeSets.HasNestedSet(scope(), set)) {
+                AddError(inp_Utils::MessageInKeyword(
+                    keyword, atr("Unknown node set %1$s is detected in column one under "
+                                 "*PARAMETER SHAPE VARIATION. ",
+                                 item)));
+                return;
+            }
+            locals = m_nodeSets.ConstGetNestedSet(scope(), set)->ConstGetIdList();
+        } else {
+            AddError(inp_Utils::MessageInKeyword(
+                keyword, atr("A column one data item under *PARAMETER SHAPE VARIATION is "
+                             "unrecognizable as a node number or node set label. The item in "
+                             "question is: %1$s",
+                             item)));
+            return;
+        }
+        for (int local : locals) {
+            int const global = globalNode(local);
+            gsl_Point node;
+            if (global == 0 || !localPosition(global, node)) {
+                AddError(inp_Utils::MessageInKeyword(
+                    keyword, atr("Unknown local node number %1$s is encountered during the "
+                                 "processing of *PARAMETER SHAPE VARIATION. Note that the node "
+                                 "number may not be specified explicitly, but expanded from a "
+                                 "node set label. ",
+                                 cow_String::FromInt(local))));
+                return;
+            }
+            cow_List<cow_String> items;
+            items.Append(cow_String::FromInt(local));
+            for (int triple = 0; triple < 2; ++triple) {
+                double d[3];
+                for (int k = 0; k < 3; ++k) {
+                    int const column = 1 + 3 * triple + k;
+                    d[k] = column < data.Cols(row) && data.HasValue(row, column)
+                               ? data.AsDouble(row, column)
+                               : 0.0;
+                }
+                turnDisplacement(system, node, d);
+                for (double value : d) items.Append(cow_String::FromDouble(value));
+            }
+            rewritten.Append(items);
+        }
+    }
+    keyword.SetData(rewritten);
+    keyword.RemoveParameter("system");
+}
+
+// Only a distribution of orientation points is geometry: its two triples
+// a line are turned as vectors when the system that names it is
+// rectangular, and moved as points otherwise. The label and a value in
+// column 7 are kept.
+void inp_TransformationVisitor::VisitDistribution(inp_Keyword& keyword) {
+    if (guarded(keyword)) return;
+    cow_String const table = keyword.GetParameterAsString("table", cow_String());
+    if (inp_DistributionTableDB::Instance().validateDistTable(inp_distOrientationPoints, table) !=
+        inp_DistributionTableDB::kFits)
+        return;
+    bool const vectors =
+        m_modelParameters.isCsysRectangular(keyword.GetParameterAsString("name", cow_String()));
+    inp_DataArray const& data = keyword.Data();
+    inp_DataArray rewritten;
+    for (int row = 0; row < data.Rows(); ++row) {
+        cow_List<cow_String> items;
+        items.Append(data.Cols(row) > 0 ? data.AsStringVerbatim(row, 0) : cow_String());
+        for (int triple = 0; triple < 2; ++triple) {
+            double values[3];
+            for (int k = 0; k < 3; ++k) {
+                int const column = 1 + 3 * triple + k;
+                values[k] = column < data.Cols(row) && data.HasValue(row, column)
+                                ? data.AsDouble(row, column)
+                                : 0.0;
+            }
+            if (vectors) {
+                gsl_Vector vector(values[0], values[1], values[2]);
+                m_currentTransform.Transform(vector);
+                vector = ZeroSmallerThanTolerance(vector);
+                values[0] = vector.X(), values[1] = vector.Y(), values[2] = vector.Z();
+            } else {
+                gsl_Point point(values[0], values[1], values[2]);
+                m_currentTransform.Transform(point);
+                point = ZeroSmallerThanTolerance(point);
+                values[0] = point.x, values[1] = point.y, values[2] = point.z;
+            }
+            for (double value : values) items.Append(cow_String::FromDouble(value));
+        }
+        if (data.Cols(row) > 7 && data.HasValue(row, 7))
+            items.Append(data.AsStringVerbatim(row, 7));
+        rewritten.Append(items);
+    }
+    keyword.SetData(rewritten);
 }

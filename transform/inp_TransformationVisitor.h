@@ -84,7 +84,9 @@ class inp_TransformationVisitor : public inp_Visitor {
     void VisitSolidSection(inp_Keyword& keyword) override;
     void VisitSpring(inp_Keyword& keyword) override;
     void VisitTransform(inp_Keyword& keyword) override;
+    void VisitDistribution(inp_Keyword& keyword) override;
     void VisitImperfection(inp_Keyword& keyword) override;
+    void VisitParameterShapeVariation(inp_Keyword& keyword) override;
     void VisitWave(inp_Keyword& keyword) override;
     void VisitWind(inp_Keyword& keyword) override;
     // inp_TransformationSurfaces.cpp: analytical and cutting surfaces, at
@@ -159,6 +161,9 @@ class inp_TransformationVisitor : public inp_Visitor {
     void DifferentialCylindricalConversion(double& dr, double& dtheta, gsl_Point const& node) const;
     void DifferentialSphericalConversion(double& dr, double& dtheta, double& dphi,
                                          gsl_Point const& node) const;
+    // A displacement (d[0..2]) given in SYSTEM ("R", "C" or "S") at `node`,
+    // made Cartesian and turned into the instance.
+    void turnDisplacement(cow_String const& system, gsl_Point const& node, double (&d)[3]) const;
     // The data of a CYLINDER or REVOLUTION surface, or of a SEGMENTS one
     // (false for an unknown shape), written into `rewritten`.
     void rewriteLocalSystem(inp_Keyword const& keyword, bool cylinder, int start, int leadingLines,

@@ -10,6 +10,7 @@
 #include <numbers>
 #include <string>
 
+#include "tables/inp_DistributionTableDB.h"
 #include "tests/mesh/InlineDeck.h"
 
 namespace {
@@ -294,4 +295,43 @@ TEST_F(TransformationByNodes, ImperfectionsTurnWithTheirNodes) {
                           "*IMPERFECTION. "),
               std::string::npos)
         << errors;
+}
+
+// A distribution of orientation points turns its two triples a line, as
+// vectors for a rectangular system; one of another table stays.
+TEST_F(Transformation, DistributionsOfOrientationPointsTurn) {
+    inp_DistributionTableDB& tables = inp_DistributionTableDB::Instance();
+    tables.ClearDeckTables();
+    tables.addDistTables(cow_String("AXES"), 2, 6, {inp_distCOORD3D, inp_distCOORD3D});
+    tables.addDistTables(cow_String("THICK"), 1, 1, {inp_distLENGTH});
+    inp_ModelParameters parameters;
+    parameters.SetCsysRectangular(cow_String("DIRS"), true);
+    cow_List<inp_Keyword> model = modelWith(
+        "*DISTRIBUTION, NAME=DIRS, TABLE=AXES\n, 1., 0., 0., 0., 1., 0.\n7, 1., 0., 0., 0., 1., "
+        "0.\n"
+        "*DISTRIBUTION, NAME=T, TABLE=THICK\n, 0.5\n");
+    inp_TransformationVisitor visitor(transforms(), cow_List<int>(), nodeSets, inpM_IdMap(), false,
+                                      inp_CoordMap(), elements, elementSets, parameters);
+    visitor.VisitList(model);
+    tables.ClearDeckTables();
+    EXPECT_EQ(row(in(model, 0, 0), 0), ",0,1,0,-1,0,0");
+    EXPECT_EQ(row(in(model, 0, 0), 1), "7,0,1,0,-1,0,0");
+    EXPECT_EQ(row(in(model, 0, 1), 0), ",0.5");
+}
+
+// Shape variations at a node or at each node of a set turn with the
+// instance, a line per node; an unknown set ends the keyword as written.
+TEST_F(TransformationByNodes, ShapeVariationsTurnAtEachNode) {
+    nodeSets.InsertNestedSet(cow_String("MOVED"), cow_String("BOTH"),
+                             CreateSet(cow_List<int>{1, 2}, false, false));
+    cow_List<inp_Keyword> model = modelWith(
+        "*PARAMETER SHAPE VARIATION, PARAMETER=P\nBOTH, 1., 0., 0., 0., 0., 1.\n"
+        "*PARAMETER SHAPE VARIATION, PARAMETER=Q\nNOSET, 1., 0., 0.\n");
+    walkWithNodes(model);
+    inp_Keyword const& both = in(model, 0, 0);
+    ASSERT_EQ(both.Data().Rows(), 2);
+    EXPECT_EQ(row(both, 0), "1,0,1,0,0,0,1");
+    EXPECT_EQ(row(both, 1), "2,0,1,0,0,0,1");
+    EXPECT_EQ(row(in(model, 0, 1), 0), "NOSET,1.,0.,0.");
+    EXPECT_NE(errors.find("Unknown node set NOSET is detected"), std::string::npos) << errors;
 }
