@@ -137,6 +137,7 @@ void inp_TransformationVisitor::transformBeamDirection(inp_Keyword& keyword) {
         row = 1;
     }
     bool const exists = row < data.Rows();
+    if (exists && !numbersAt(keyword, row, 0, 3)) return;
     double direction[3] = {0.0, 0.0, -1.0};
     if (exists && data.Cols(row) > 0 && data.HasValue(row, 0))
         for (int k = 0; k < 3; ++k)
@@ -167,7 +168,7 @@ void inp_TransformationVisitor::VisitOrientation(inp_Keyword& keyword) {
     bool const vectorsOnly = system == "RECTANGULAR" || system == "ZRECTANGULAR";
     if (definition == "NODES") {
         orientationByNodes(keyword, vectorsOnly);
-    } else if (definition == "COORDINATES") {
+    } else if (definition == "COORDINATES" && pointsReadable(keyword)) {
         keyword = TransformOrientationData(keyword, vectorsOnly);
     }
 }
@@ -289,6 +290,7 @@ void inp_TransformationVisitor::VisitImperfection(inp_Keyword& keyword) {
                              data.AsStringVerbatim(row, 0))));
             return;
         }
+        if (!numbersAt(keyword, row, 1, 3)) return;
         double d[3];
         for (int k = 0; k < 3; ++k)
             d[k] = 1 + k < data.Cols(row) && data.HasValue(row, 1 + k) ? data.AsDouble(row, 1 + k)
@@ -303,16 +305,26 @@ void inp_TransformationVisitor::VisitImperfection(inp_Keyword& keyword) {
     keyword.RemoveParameter("system");
 }
 
+// The points of a local system's first line, unless it names a
+// distribution, are numbers.
+bool inp_TransformationVisitor::pointsReadable(inp_Keyword const& keyword) {
+    inp_DataArray const& data = keyword.Data();
+    if (data.Cols(0) > 0 && data.HasValue(0, 0) && data.Type(0, 0) == inp_Types::inp_STRING)
+        return true;
+    return numbersAt(keyword, 0, 0, 9);
+}
+
 // A rectangular system turns; a cylindrical or spherical one is given by
 // points, which move.
 void inp_TransformationVisitor::VisitTransform(inp_Keyword& keyword) {
-    if (guarded(keyword)) return;
+    if (guarded(keyword) || !pointsReadable(keyword)) return;
     keyword = TransformOrientationData(keyword, parameterOr(keyword, "type", "R") == "R");
 }
 
 // The tensor I becomes R I R^T, R the rotation of the instance.
 void inp_TransformationVisitor::VisitRotaryInertia(inp_Keyword& keyword) {
-    if (guarded(keyword) || keyword.HasParameter("orientation")) return;
+    if (guarded(keyword) || keyword.HasParameter("orientation") || !numbersAt(keyword, 0, 0, 6))
+        return;
     inp_DataArray const& data = keyword.Data();
     double values[6];
     for (int k = 0; k < 6; ++k)
@@ -504,6 +516,7 @@ void inp_TransformationVisitor::VisitParameterShapeVariation(inp_Keyword& keywor
                              item)));
             return;
         }
+        if (!numbersAt(keyword, row, 1, 6)) return;
         for (int local : locals) {
             int const global = globalNode(local);
             gsl_Point node;
@@ -550,6 +563,8 @@ void inp_TransformationVisitor::VisitDistribution(inp_Keyword& keyword) {
         m_modelParameters.isCsysRectangular(keyword.GetParameterAsString("name", cow_String()));
     inp_DataArray const& data = keyword.Data();
     inp_DataArray rewritten;
+    for (int row = 0; row < data.Rows(); ++row)
+        if (!numbersAt(keyword, row, 1, 6)) return;
     for (int row = 0; row < data.Rows(); ++row) {
         cow_List<cow_String> items;
         items.Append(data.Cols(row) > 0 ? data.AsStringVerbatim(row, 0) : cow_String());

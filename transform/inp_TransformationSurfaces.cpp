@@ -161,6 +161,7 @@ bool inp_TransformationVisitor::rewriteSegments(inp_Keyword const& keyword, int 
                     shape)));
             return false;
         }
+        if (!numbersAt(keyword, row, 1, 2 * points)) return false;
         cow_List<cow_String> items;
         items.Append(shape);
         for (int p = 0; p < points; ++p) {

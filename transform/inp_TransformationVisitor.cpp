@@ -1,6 +1,7 @@
 #include "transform/inp_TransformationVisitor.h"
 
 #include "mesh/inp_Coord.h"
+#include "mesh/inp_Utils.h"
 
 inp_TransformationVisitor::inp_TransformationVisitor(
     inpM_InstanceMap<gsl_Matrix> const& transformations, cow_List<int> const& transformNodes,
@@ -82,6 +83,23 @@ bool inp_TransformationVisitor::guarded(inp_Keyword const& keyword) const {
     return scope().IsEmpty() || m_currentTransform.IsIdentity() || keyword.Data().Rows() == 0;
 }
 
+bool inp_TransformationVisitor::numbersAt(inp_Keyword const& keyword, int row, int first,
+                                          int count) {
+    inp_DataArray const& data = keyword.Data();
+    if (row >= data.Rows()) return true;
+    for (int column = first; column < first + count && column < data.Cols(row); ++column) {
+        if (!data.HasValue(row, column)) continue;
+        inp_Types::typeEnm const type = data.Type(row, column);
+        if (type == inp_Types::inp_INTEGER || type == inp_Types::inp_REAL) continue;
+        AddError(inp_Utils::MessageInKeyword(
+            keyword, atr("The data item %1$s stands where a number belongs; the keyword is left "
+                         "as written.",
+                         data.AsStringVerbatim(row, column))));
+        return false;
+    }
+    return true;
+}
+
 void inp_TransformationVisitor::ownData(inp_Keyword& keyword) {
     if (keyword.Data().UseCount() > 1) keyword.SetData(keyword.Data().Copy());
 }
@@ -107,6 +125,7 @@ void inp_TransformationVisitor::writeTriple(inp_Keyword& keyword, int row, int c
 void inp_TransformationVisitor::TransformSinglePoint(inp_Keyword& keyword, int row, int column) {
     inp_DataArray const& data = keyword.Data();
     if (row >= data.Rows() || column >= data.Cols(row) || !data.HasValue(row, column)) return;
+    if (!numbersAt(keyword, row, column, 3)) return;
     double values[3];
     readTriple(data, row, column, values);
     gsl_Point point(values[0], values[1], values[2]);
@@ -117,6 +136,7 @@ void inp_TransformationVisitor::TransformSinglePoint(inp_Keyword& keyword, int r
 void inp_TransformationVisitor::TransformSingleVector(inp_Keyword& keyword, int row, int column) {
     inp_DataArray const& data = keyword.Data();
     if (row >= data.Rows() || column >= data.Cols(row) || !data.HasValue(row, column)) return;
+    if (!numbersAt(keyword, row, column, 3)) return;
     double values[3];
     readTriple(data, row, column, values);
     gsl_Vector vector(values[0], values[1], values[2]);

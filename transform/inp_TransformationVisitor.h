@@ -136,6 +136,10 @@ class inp_TransformationVisitor : public inp_Visitor {
     bool guarded(inp_Keyword const& keyword) const;
     // The scope: the instance name when set, else the part name.
     cow_String const& scope() const;
+    // Whether the items of `row` from `first` on, `count` of them, are
+    // numbers where they are given; text there is reported, and the caller
+    // leaves the keyword as written.
+    bool numbersAt(inp_Keyword const& keyword, int row, int first, int count);
     // Gives the keyword data of its own when another holder shares them.
     static void ownData(inp_Keyword& keyword);
     // The auxiliary orientation of a keyword that depends on the global
@@ -143,6 +147,7 @@ class inp_TransformationVisitor : public inp_Visitor {
     // axes rotated into the instance; the keyword gets ORIENTATION = name.
     // Nothing when the keyword has an ORIENTATION or lacks `parameter`.
     void addAuxiliaryOrientation(inp_Keyword& keyword, char const* prefix, char const* parameter);
+    bool pointsReadable(inp_Keyword const& keyword);
     // The first direction of a beam section, by its SECTION.
     void transformBeamDirection(inp_Keyword& keyword);
     // *SPRING and *DASHPOT of the types that need an orientation.

@@ -335,3 +335,78 @@ TEST_F(TransformationByNodes, ShapeVariationsTurnAtEachNode) {
     EXPECT_EQ(row(in(model, 0, 1), 0), "NOSET,1.,0.,0.");
     EXPECT_NE(errors.find("Unknown node set NOSET is detected"), std::string::npos) << errors;
 }
+
+// Each kind of geometry in MOVED, value by value; the same keywords in the
+// unmoved STILL are left as written, but for the surfaces, which are always
+// rewritten.
+TEST_F(Transformation, EachKindOfGeometryInAMovedInstance) {
+    struct Case {
+        char const* deck;
+        int row;
+        char const* moved;
+    };
+    Case const cases[] = {
+        {"*GASKET SECTION, ELSET=G, MATERIAL=M\n0.1, 0., 0., 0., 1., 0., 0.\n", 0,
+         "0.1,0.,0.,0.,0,1,0"},
+        {"*ITS, ELSET=I\n0., 0., 1., 0., 0., 0., 1., 0.\n", 0, "0.,0.,0,1,0,-1,0,0"},
+        {"*PRE-TENSION SECTION, ELEMENT=5, NODE=1\n1., 0., 0.\n", 0, "0,1,0"},
+        {"*IMPEDANCE PROPERTY, NAME=Z, TYPE=ELLIPTICAL\n0., 0., 1., 0., 0., 1., 0., 0.\n", 0,
+         "0.,0.,10,1,0,0,1,0"},
+        {"*WAVE, TYPE=AIRY\n1., 1., 0., 1., 0.\n", 0, "1.,1.,0.,0,1,0"},
+        {"*WIND\n1., 1., 1., 1., 1., 0., 0.2\n", 0, "1.,1.,1.,1.,0,1,0.2"},
+        {"*AQUA\n0., 10.\n1., 0., 0., 0., 1., 0., 0.\n", 1, "0,1,0,0.,10,1,0"},
+        {"*NORMAL\n1, 2, 1., 0., 0.\n", 0, "1,2,0,1,0"},
+        {"*BEAM SECTION, ELSET=B, SECTION=ELBOW, MATERIAL=M\n0.1, 0.01\n1., 0., 0.\n", 1,
+         "10,1,0"},
+        {"*SURFACE, NAME=CUT, TYPE=CUTTINGSURFACE\n1., 0., 0., 1., 0., 0.\n", 0,
+         "10,1,0,0,1,0"},
+        {"*SURFACE, NAME=REV, TYPE=REVOLUTION\nSTART, 1., 0.\n", 0, "10,0,0,9,0,0"},
+    };
+    for (Case const& kind : cases) {
+        SCOPED_TRACE(kind.deck);
+        cow_List<inp_Keyword> model = modelWith(kind.deck);
+        walk(model);
+        EXPECT_EQ(row(in(model, 0, 0), kind.row), kind.moved);
+        std::string const written = row(in(model, -1, 0), kind.row);
+        bool const surface = in(model, 2, 0).Is(inp_kw_Surface);
+        if (!surface) {
+            EXPECT_EQ(row(in(model, 2, 0), kind.row), written);
+        }
+    }
+}
+
+// Each keyword on the global axes gets its orientation, named after the
+// parameter that tells it apart.
+TEST_F(Transformation, EachKeywordOnTheGlobalAxesGetsItsOrientation) {
+    inp_MapInt2Element table;
+    table.Insert(1, inp_Element(cow_String("DASHPOT1"), cow_List<int>{1}, 1, 0, 0));
+    elements.Insert(cow_String("MOVED"), table);
+    elementSets.InsertNestedSet(cow_String("MOVED"), cow_String("D"),
+                                CreateSet(cow_List<int>{1}, false, false));
+    cow_List<inp_Keyword> model = modelWith(
+        "*COUPLING, CONSTRAINT NAME=C1, REF NODE=1, SURFACE=S\n1\n"
+        "*ADJUST, NODE SET=N\n1.\n"
+        "*FASTENER, INTERACTION NAME=F, PROPERTY=P, REFERENCE NODE SET=R\n1\n"
+        "*JOINT, ELSET=J\n1\n"
+        "*DASHPOT, ELSET=D\n3\n1.\n");
+    walk(model);
+    char const* const names[] = {"Coupling_C1", "Adjust_N", "Fastener_R", "jointc_J", "dashpot_D"};
+    for (int k = 0; k < 5; ++k)
+        EXPECT_EQ(in(model, 0, k).GetParameterAsString("orientation", "").View(), names[k]) << k;
+}
+
+// Text where a number belongs is reported, and the keyword stays as written.
+TEST_F(Transformation, TextWhereANumberBelongsLeavesTheKeyword) {
+    cow_List<inp_Keyword> model = modelWith("*GAP, ELSET=G\n0.5, ONE, 0., 0.\n"
+                                            "*ORIENTATION, NAME=OR\n1., 0., X, 0., 1., 0.\n"
+                                            "*ROTARY INERTIA, ELSET=R\n1., 2., THREE\n");
+    walk(model);
+    EXPECT_EQ(row(in(model, 0, 0), 0), "0.5,ONE,0.,0.");
+    EXPECT_EQ(row(in(model, 0, 1), 0), "1.,0.,X,0.,1.,0.");
+    EXPECT_EQ(row(in(model, 0, 2), 0), "1.,2.,THREE");
+    for (char const* item : {"ONE", "X", "THREE"})
+        EXPECT_NE(errors.find(std::string("The data item ") + item +
+                              " stands where a number belongs"),
+                  std::string::npos)
+            << errors;
+}
