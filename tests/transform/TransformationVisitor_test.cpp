@@ -356,10 +356,8 @@ TEST_F(Transformation, EachKindOfGeometryInAMovedInstance) {
         {"*WIND\n1., 1., 1., 1., 1., 0., 0.2\n", 0, "1.,1.,1.,1.,0,1,0.2"},
         {"*AQUA\n0., 10.\n1., 0., 0., 0., 1., 0., 0.\n", 1, "0,1,0,0.,10,1,0"},
         {"*NORMAL\n1, 2, 1., 0., 0.\n", 0, "1,2,0,1,0"},
-        {"*BEAM SECTION, ELSET=B, SECTION=ELBOW, MATERIAL=M\n0.1, 0.01\n1., 0., 0.\n", 1,
-         "10,1,0"},
-        {"*SURFACE, NAME=CUT, TYPE=CUTTINGSURFACE\n1., 0., 0., 1., 0., 0.\n", 0,
-         "10,1,0,0,1,0"},
+        {"*BEAM SECTION, ELSET=B, SECTION=ELBOW, MATERIAL=M\n0.1, 0.01\n1., 0., 0.\n", 1, "10,1,0"},
+        {"*SURFACE, NAME=CUT, TYPE=CUTTINGSURFACE\n1., 0., 0., 1., 0., 0.\n", 0, "10,1,0,0,1,0"},
         {"*SURFACE, NAME=REV, TYPE=REVOLUTION\nSTART, 1., 0.\n", 0, "10,0,0,9,0,0"},
     };
     for (Case const& kind : cases) {
@@ -397,16 +395,17 @@ TEST_F(Transformation, EachKeywordOnTheGlobalAxesGetsItsOrientation) {
 
 // Text where a number belongs is reported, and the keyword stays as written.
 TEST_F(Transformation, TextWhereANumberBelongsLeavesTheKeyword) {
-    cow_List<inp_Keyword> model = modelWith("*GAP, ELSET=G\n0.5, ONE, 0., 0.\n"
-                                            "*ORIENTATION, NAME=OR\n1., 0., X, 0., 1., 0.\n"
-                                            "*ROTARY INERTIA, ELSET=R\n1., 2., THREE\n");
+    cow_List<inp_Keyword> model = modelWith(
+        "*GAP, ELSET=G\n0.5, ONE, 0., 0.\n"
+        "*ORIENTATION, NAME=OR\n1., 0., X, 0., 1., 0.\n"
+        "*ROTARY INERTIA, ELSET=R\n1., 2., THREE\n");
     walk(model);
     EXPECT_EQ(row(in(model, 0, 0), 0), "0.5,ONE,0.,0.");
     EXPECT_EQ(row(in(model, 0, 1), 0), "1.,0.,X,0.,1.,0.");
     EXPECT_EQ(row(in(model, 0, 2), 0), "1.,2.,THREE");
     for (char const* item : {"ONE", "X", "THREE"})
-        EXPECT_NE(errors.find(std::string("The data item ") + item +
-                              " stands where a number belongs"),
-                  std::string::npos)
+        EXPECT_NE(
+            errors.find(std::string("The data item ") + item + " stands where a number belongs"),
+            std::string::npos)
             << errors;
 }
