@@ -281,7 +281,8 @@ TEST_F(TransformationByNodes, ImperfectionsTurnWithTheirNodes) {
     cow_List<inp_Keyword> model = modelWith(
         "*IMPERFECTION, SYSTEM=C\n1, 0.5, 90., 0.\n"
         "*IMPERFECTION\n2, 0.1, 0., 0.\n"
-        "*IMPERFECTION\n9, 0.1, 0., 0.\n");
+        "*IMPERFECTION\n9, 0.1, 0., 0.\n"
+        "*IMPERFECTION, FILE=OLD, STEP=1\n1, 0.1\n");
     walkWithNodes(model);
     inp_Keyword const& cylindrical = in(model, 0, 0);
     EXPECT_FALSE(cylindrical.HasParameter("system"));
@@ -291,6 +292,7 @@ TEST_F(TransformationByNodes, ImperfectionsTurnWithTheirNodes) {
     EXPECT_NEAR(cylindrical.Data().AsDouble(0, 2), -1.0, 1e-12);
     EXPECT_EQ(row(in(model, 0, 1), 0), "2,0,0.1,0");
     EXPECT_EQ(row(in(model, 0, 2), 0), "9,0.1,0.,0.");
+    EXPECT_EQ(row(in(model, 0, 3), 0), "1,0.1");  // read from a file: left alone
     EXPECT_NE(errors.find("Unknown local node number 9 is encountered during the processing of "
                           "*IMPERFECTION. "),
               std::string::npos)
