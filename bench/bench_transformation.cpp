@@ -23,7 +23,8 @@ namespace {
 
 constexpr int kInstances = 100;
 
-inp_Keyword keyword(char const* name, std::initializer_list<std::pair<char const*, char const*>> parameters,
+inp_Keyword keyword(char const* name,
+                    std::initializer_list<std::pair<char const*, char const*>> parameters,
                     std::initializer_list<char const*> lines) {
     inp_Keyword result{cow_String(name)};
     for (auto const& [parameter, value] : parameters)
@@ -51,7 +52,8 @@ cow_List<inp_Keyword> geometry(bool withSurface) {
         keywords.Append(keyword("surface", {{"name", "CUT"}, {"type", "CUTTINGSURFACE"}},
                                 {"1., 0., 0., 1., 0., 0."}));
     keywords.Append(keyword("kinematiccoupling", {{"refnode", "5"}}, {"1, 1"}));
-    keywords.Append(keyword("pre-tensionsection", {{"element", "5"}, {"node", "1"}}, {"1., 0., 0."}));
+    keywords.Append(
+        keyword("pre-tensionsection", {{"element", "5"}, {"node", "1"}}, {"1., 0., 0."}));
     return keywords;
 }
 
