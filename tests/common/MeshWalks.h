@@ -11,6 +11,7 @@
 #include "pipeline/inp_InputFile.h"
 #include "tables/inp_ContactCheck.h"
 #include "tests/mesh/SurfaceVisitorForTests.h"
+#include "transform/inp_TransformationVisitor.h"
 
 // The number of nodes, elements and surfaces made, so that a caller can
 // keep the walks from being optimised away.
@@ -72,4 +73,12 @@ inline void RunExtractionStages(inp_InputFile& input) {
     input.ExtractAssemblyMaps(false);
     input.CheckOutOfPlace();
     inp_ContactCheck(input.AssemblySurfaces(), input.Keywords()).PerformCheck(true);
+    // The tree in the global frame, on a copy, as a converter flattens it.
+    cow_List<inp_Keyword> flattened = input.Keywords();
+    inpM_SetMap nodeSets = input.AssemblyNsets();
+    inp_TransformationVisitor(input.TransformationMap(), cow_List<int>(), nodeSets,
+                              input.NodeIdMap(), true, input.AssemblyCoordMap(),
+                              input.AssemblyElementMap(), input.AssemblyElsets(),
+                              input.ModelParameters())
+        .VisitList(flattened);
 }
