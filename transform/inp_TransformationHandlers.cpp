@@ -292,9 +292,7 @@ void inp_TransformationVisitor::VisitImperfection(inp_Keyword& keyword) {
         }
         if (!numbersAt(keyword, row, 1, 3)) return;
         double d[3];
-        for (int k = 0; k < 3; ++k)
-            d[k] = 1 + k < data.Cols(row) && data.HasValue(row, 1 + k) ? data.AsDouble(row, 1 + k)
-                                                                       : 0.0;
+        readTriple(data, row, 1, d);
         turnDisplacement(system, node, d);
         cow_List<cow_String> items;
         items.Append(data.AsStringVerbatim(row, 0));
@@ -533,12 +531,7 @@ void inp_TransformationVisitor::VisitParameterShapeVariation(inp_Keyword& keywor
             items.Append(cow_String::FromInt(local));
             for (int triple = 0; triple < 2; ++triple) {
                 double d[3];
-                for (int k = 0; k < 3; ++k) {
-                    int const column = 1 + 3 * triple + k;
-                    d[k] = column < data.Cols(row) && data.HasValue(row, column)
-                               ? data.AsDouble(row, column)
-                               : 0.0;
-                }
+                readTriple(data, row, 1 + 3 * triple, d);
                 turnDisplacement(system, node, d);
                 for (double value : d) items.Append(cow_String::FromDouble(value));
             }
@@ -570,23 +563,8 @@ void inp_TransformationVisitor::VisitDistribution(inp_Keyword& keyword) {
         items.Append(data.Cols(row) > 0 ? data.AsStringVerbatim(row, 0) : cow_String());
         for (int triple = 0; triple < 2; ++triple) {
             double values[3];
-            for (int k = 0; k < 3; ++k) {
-                int const column = 1 + 3 * triple + k;
-                values[k] = column < data.Cols(row) && data.HasValue(row, column)
-                                ? data.AsDouble(row, column)
-                                : 0.0;
-            }
-            if (vectors) {
-                gsl_Vector vector(values[0], values[1], values[2]);
-                m_currentTransform.Transform(vector);
-                vector = ZeroSmallerThanTolerance(vector);
-                values[0] = vector.X(), values[1] = vector.Y(), values[2] = vector.Z();
-            } else {
-                gsl_Point point(values[0], values[1], values[2]);
-                m_currentTransform.Transform(point);
-                point = ZeroSmallerThanTolerance(point);
-                values[0] = point.x, values[1] = point.y, values[2] = point.z;
-            }
+            readTriple(data, row, 1 + 3 * triple, values);
+            turnTriple(values, vectors);
             for (double value : values) items.Append(cow_String::FromDouble(value));
         }
         if (data.Cols(row) > 7 && data.HasValue(row, 7))

@@ -196,23 +196,27 @@ inp_Keyword inp_TransformationVisitor::TransformOrientationData(inp_Keyword cons
         for (int p = 0; p < points; ++p) {
             double values[3];
             readTriple(data, 0, 3 * p, values);
-            if (vectorsOnly) {
-                gsl_Vector vector(values[0], values[1], values[2]);
-                m_currentTransform.Transform(vector);
-                vector = ZeroSmallerThanTolerance(vector);
-                values[0] = vector.X(), values[1] = vector.Y(), values[2] = vector.Z();
-            } else {
-                gsl_Point point(values[0], values[1], values[2]);
-                m_currentTransform.Transform(point);
-                point = ZeroSmallerThanTolerance(point);
-                values[0] = point.x, values[1] = point.y, values[2] = point.z;
-            }
+            turnTriple(values, vectorsOnly);
             for (double value : values) items.Append(cow_String::FromDouble(value));
         }
         result.Data().Append(items);
     }
     for (int row = 1; row < data.Rows(); ++row) result.Data().Append(rowTexts(data, row));
     return result;
+}
+
+void inp_TransformationVisitor::turnTriple(double (&values)[3], bool asVector) const {
+    if (asVector) {
+        gsl_Vector vector(values[0], values[1], values[2]);
+        m_currentTransform.Transform(vector);
+        vector = ZeroSmallerThanTolerance(vector);
+        values[0] = vector.X(), values[1] = vector.Y(), values[2] = vector.Z();
+        return;
+    }
+    gsl_Point point(values[0], values[1], values[2]);
+    m_currentTransform.Transform(point);
+    point = ZeroSmallerThanTolerance(point);
+    values[0] = point.x, values[1] = point.y, values[2] = point.z;
 }
 
 void inp_TransformationVisitor::addAuxiliaryOrientation(inp_Keyword& keyword, char const* prefix,

@@ -195,9 +195,14 @@ class inp_TransformationVisitor : public inp_Visitor {
     inp_ModelParameters m_modelParameters;
     std::unordered_set<int> m_transformNodeLookup;
 
-  private:
+    // A triple turned as a direction, or moved as a point, and cleaned of
+    // rounding noise.
+    void turnTriple(double (&values)[3], bool asVector) const;
+
     // Up to three doubles of a row from `column` on, 0.0 where it has none.
     static void readTriple(inp_DataArray const& data, int row, int column, double (&values)[3]);
+
+  private:
     static void writeTriple(inp_Keyword& keyword, int row, int column, double const (&values)[3]);
     // The matrix of the level: the instance's, or the assembly's own.
     gsl_Matrix levelTransform() const;
