@@ -13,6 +13,7 @@
 #include "assembly/inp_UndefinedNodeVisitor.h"
 #include "deck/inp_ElementDataArrayImpl.h"
 #include "deck/inp_NodeDataArrayImpl.h"
+#include "mesh/inp_MapInt2Coord.h"
 #include "mesh/inp_NodeGenerationVisitor.h"
 #include "pipeline/inp_InputFile.h"
 #include "pipeline/inp_StageTime.h"
@@ -53,8 +54,25 @@ void releaseFlatMeshData(cow_List<inp_Keyword>& keywords, inp_KeywordEnm kind) {
 // The numbering of the nodes and elements of the generated model: the
 // labels of each part in ascending order, part after part. Only the id maps
 // are made; the maps themselves keep the deck's labels.
-inpM_IdMap numberingOf(inp_CoordMap coordinates) {
-    return coordinates.Renumber(1, false);
+// What Renumber(1, false) of a copy gives, without the copy's table of
+// current labels, which nobody would read: the part maps of a flat deck are
+// fresh, so each level's stored labels are its current ones, ascending.
+void numberLevel(inp_CoordMap const& level, int& next, inpM_IdMap& result) {
+    inp_MapInt2Coord const nodes = level.ConstGet();
+    for (inp_MapInt2CoordSIT it(nodes); it.NotDone(); it.Next())
+        result.Insert(it.CurrentKey(), next++);
+    for (cow_String const& name : level.Instances()) {
+        inpM_IdMap nested;
+        numberLevel(level.ConstGet(name), next, nested);
+        result.Insert(name, nested);
+    }
+}
+
+inpM_IdMap numberingOf(inp_CoordMap const& coordinates) {
+    inpM_IdMap result;
+    int next = 1;
+    numberLevel(coordinates, next, result);
+    return result;
 }
 
 inpM_IdMap numberingOf(inpM_InstanceMap<inp_MapInt2Element> const& elements) {
