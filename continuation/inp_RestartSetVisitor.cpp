@@ -57,8 +57,10 @@ void inp_RestartSetVisitor::VisitElset(inp_Keyword& keyword) {
 // or with the assembly's name in front). A flat model's sets went to its
 // generated instances, where a plain name finds them.
 bool inp_RestartSetVisitor::existsInOriginal(cow_String const& name) const {
-    if (m_oldSets.HasSet(name)) return true;
-    if (!m_partsModel && !FindOwningInstance(m_oldSets, name).IsEmpty()) return true;
+    cow_String scope;
+    if (m_partsModel ? m_oldSets.HasSet(name)
+                     : m_oldSets.SearchAssemblyAndInstancesForSet(name, scope))
+        return true;
     cow_List<cow_String> pieces = inp_Utils::SplitScopedSet(name);
     if (pieces.Length() > 1 && pieces.ConstGet(0) == m_originalAssemblyName) pieces.RemoveIndex(0);
     if (pieces.Length() == 1) return m_oldSets.HasSet(pieces.ConstGet(0));

@@ -28,20 +28,13 @@ int segmentsOf(inp_Keyword const& generation) {
     return segments;
 }
 
-// Whether the earlier model has a set of the name, at any level.
-bool hasSetAnywhere(inpM_SetMap const& sets, cow_String const& name) {
-    if (sets.HasSet(name)) return true;
-    for (cow_String const& instance : sets.Instances())
-        if (sets.HasNestedSet(instance, name)) return true;
-    return false;
-}
-
 // A name that an import asks for and the earlier model lacks imports
 // nothing; the user hears of it.
 void warnOfUnknownSets(inp_Keyword const& keyword, cow_List<cow_String> const& names,
                        inpM_SetMap const& sets) {
+    cow_String scope;
     for (cow_String const& name : names)
-        if (!hasSetAnywhere(sets, name))
+        if (!sets.SearchAssemblyAndInstancesForSet(name, scope))
             thr_ThreadSingleton<wip_WIP>::Instance().Warning(inp_Utils::MessageInKeyword(
                 keyword,
                 atr("The set %1$s to be imported does not exist in the original analysis.", name)));

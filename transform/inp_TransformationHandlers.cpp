@@ -139,19 +139,14 @@ void inp_TransformationVisitor::transformBeamDirection(inp_Keyword& keyword) {
     bool const exists = row < data.Rows();
     if (exists && !numbersAt(keyword, row, 0, 3)) return;
     double direction[3] = {0.0, 0.0, -1.0};
-    if (exists && data.Cols(row) > 0 && data.HasValue(row, 0))
-        for (int k = 0; k < 3; ++k)
-            direction[k] =
-                k < data.Cols(row) && data.HasValue(row, k) ? data.AsDouble(row, k) : 0.0;
+    if (exists && data.Cols(row) > 0 && data.HasValue(row, 0)) readTriple(data, row, 0, direction);
     gsl_Vector vector(direction[0], direction[1], direction[2]);
     m_currentTransform.Transform(vector);
-    ownData(keyword);
     if (exists) {
-        keyword.Data().Set(row, 0, cow_String::FromDouble(vector.X()));
-        keyword.Data().Set(row, 1, cow_String::FromDouble(vector.Y()));
-        keyword.Data().Set(row, 2, cow_String::FromDouble(vector.Z()));
+        writeTriple(keyword, row, 0, {vector.X(), vector.Y(), vector.Z()});
         return;
     }
+    ownData(keyword);
     char line[96];
     std::snprintf(line, sizeof line, "%lg, %lg, %lg", vector.X(), vector.Y(), vector.Z());
     keyword.Data().Append(line);

@@ -123,25 +123,29 @@ void inp_TransformationVisitor::writeTriple(inp_Keyword& keyword, int row, int c
 }
 
 void inp_TransformationVisitor::TransformSinglePoint(inp_Keyword& keyword, int row, int column) {
-    inp_DataArray const& data = keyword.Data();
-    if (row >= data.Rows() || column >= data.Cols(row) || !data.HasValue(row, column)) return;
-    if (!numbersAt(keyword, row, column, 3)) return;
-    double values[3];
-    readTriple(data, row, column, values);
-    gsl_Point point(values[0], values[1], values[2]);
-    m_currentTransform.Transform(point);
-    writeTriple(keyword, row, column, {point.x, point.y, point.z});
+    transformAt(keyword, row, column, false);
 }
 
 void inp_TransformationVisitor::TransformSingleVector(inp_Keyword& keyword, int row, int column) {
+    transformAt(keyword, row, column, true);
+}
+
+void inp_TransformationVisitor::transformAt(inp_Keyword& keyword, int row, int column,
+                                            bool asVector) {
     inp_DataArray const& data = keyword.Data();
     if (row >= data.Rows() || column >= data.Cols(row) || !data.HasValue(row, column)) return;
     if (!numbersAt(keyword, row, column, 3)) return;
     double values[3];
     readTriple(data, row, column, values);
-    gsl_Vector vector(values[0], values[1], values[2]);
-    m_currentTransform.Transform(vector);
-    writeTriple(keyword, row, column, {vector.X(), vector.Y(), vector.Z()});
+    if (asVector) {
+        gsl_Vector vector(values[0], values[1], values[2]);
+        m_currentTransform.Transform(vector);
+        writeTriple(keyword, row, column, {vector.X(), vector.Y(), vector.Z()});
+    } else {
+        gsl_Point point(values[0], values[1], values[2]);
+        m_currentTransform.Transform(point);
+        writeTriple(keyword, row, column, {point.x, point.y, point.z});
+    }
 }
 
 gsl_Vector inp_TransformationVisitor::ZeroSmallerThanTolerance(gsl_Vector const& vector) {

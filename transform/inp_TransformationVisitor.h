@@ -201,9 +201,13 @@ class inp_TransformationVisitor : public inp_Visitor {
 
     // Up to three doubles of a row from `column` on, 0.0 where it has none.
     static void readTriple(inp_DataArray const& data, int row, int column, double (&values)[3]);
+    // The three items from `column` on overwritten, the keyword given data
+    // of its own first.
+    static void writeTriple(inp_Keyword& keyword, int row, int column, double const (&values)[3]);
 
   private:
-    static void writeTriple(inp_Keyword& keyword, int row, int column, double const (&values)[3]);
+    // TransformSinglePoint and TransformSingleVector, told apart by `asVector`.
+    void transformAt(inp_Keyword& keyword, int row, int column, bool asVector);
     // The matrix of the level: the instance's, or the assembly's own.
     gsl_Matrix levelTransform() const;
 };
