@@ -4,7 +4,7 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan bench bench-pipeline fuzz format format-check tidy install clean
+.PHONY: all build run test test-asan test-tsan bench bench-pipeline fuzz format format-check tidy install clean
 
 all: build
 
@@ -35,6 +35,17 @@ test-asan: $(BUILD_ASAN)/CMakeCache.txt
 	cmake --build $(BUILD_ASAN) -j $(JOBS)
 	ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
 	  ctest --test-dir $(BUILD_ASAN) --output-on-failure -j $(JOBS)
+
+# The many-deck check under ThreadSanitizer: decks checked on several threads
+# at once share nothing but what is meant to be shared.
+BUILD_TSAN ?= build-tsan
+
+$(BUILD_TSAN)/CMakeCache.txt:
+	cmake -S . -B $(BUILD_TSAN) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFEDECK_TSAN=ON -DFEDECK_BUILD_BENCH=OFF
+
+test-tsan: $(BUILD_TSAN)/CMakeCache.txt
+	cmake --build $(BUILD_TSAN) -j $(JOBS) --target test_fedeck_DeckBatch
+	TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1" $(BUILD_TSAN)/test_fedeck_DeckBatch
 
 $(BUILD_REL)/CMakeCache.txt:
 	cmake -S . -B $(BUILD_REL) -DCMAKE_BUILD_TYPE=Release -DFEDECK_BUILD_TESTS=OFF

@@ -4,18 +4,33 @@
 
 namespace {
 
+// A command takes `operandCount` operands, or that many and more when
+// `moreOperands`.
 struct CommandForm {
     std::string_view name;
     fedeck_Command command;
     size_t operandCount;
+    bool moreOperands;
     std::string_view operandNames;
 };
 
 constexpr CommandForm kCommands[] = {
-    {"check", fedeck_Command::Check, 1, "DECK"},
-    {"tree", fedeck_Command::Tree, 1, "DECK"},
-    {"model", fedeck_Command::Model, 1, "DECK"},
-    {"encrypt", fedeck_Command::Encrypt, 2, "IN and OUT"},
+    {"check", fedeck_Command::Check, 1, true, "at least one DECK"},
+    {"tree", fedeck_Command::Tree, 1, false, "DECK"},
+    {"model", fedeck_Command::Model, 1, false, "DECK"},
+    {"encrypt", fedeck_Command::Encrypt, 2, false, "IN and OUT"},
+};
+
+struct FormatName {
+    std::string_view name;
+    fedeck_Format format;
+};
+
+constexpr FormatName kFormats[] = {
+    {"text", fedeck_Format::Text},
+    {"json", fedeck_Format::Json},
+    {"sarif", fedeck_Format::Sarif},
+    {"github", fedeck_Format::Github},
 };
 
 CommandForm const& findCommand(std::string_view name) {
@@ -51,7 +66,8 @@ bool takesOption(fedeck_Command command, std::string_view option) {
     switch (command) {
         case fedeck_Command::Check:
             return option == "--include-dir" || option == "--until" || option == "--json" ||
-                   option == "--max-diagnostics" || option == "--restart-from";
+                   option == "--format" || option == "--jobs" || option == "--max-diagnostics" ||
+                   option == "--restart-from";
         case fedeck_Command::Tree:
             return option == "--include-dir" || option == "--until" ||
                    option == "--max-diagnostics" || option == "--global";
@@ -68,8 +84,13 @@ bool takesOption(fedeck_Command command, std::string_view option) {
 
 bool isKnownOption(std::string_view option) {
     return option == "--include-dir" || option == "--until" || option == "--json" ||
-           option == "--password" || option == "--max-diagnostics" || option == "--restart-from" ||
-           option == "--global";
+           option == "--format" || option == "--jobs" || option == "--password" ||
+           option == "--max-diagnostics" || option == "--restart-from" || option == "--global";
+}
+
+// -j is the short form of --jobs.
+std::string_view longName(std::string_view name) {
+    return name == "-j" ? "--jobs" : name;
 }
 
 class ArgumentReader {
@@ -96,8 +117,10 @@ class ArgumentReader {
 
   private:
     void readOption(std::string_view argument) {
-        size_t const equals = argument.find('=');
-        std::string_view const name = argument.substr(0, equals);
+        // -jN: the value joined to the short name, as make takes it.
+        bool const joinedJobs = argument.starts_with("-j") && argument.size() > 2;
+        size_t const equals = joinedJobs ? 1 : argument.find('=');
+        std::string_view const name = longName(argument.substr(0, joinedJobs ? 2 : equals));
         if (!isKnownOption(name))
             throw fedeck_UsageError("unknown option '" + std::string(name) + "'");
         if (!takesOption(m_form.command, name))
@@ -106,10 +129,14 @@ class ArgumentReader {
         if (name == "--json" || name == "--global") {
             if (equals != std::string_view::npos)
                 throw fedeck_UsageError("option '" + std::string(name) + "' takes no value");
-            (name == "--json" ? m_result.json : m_result.global) = true;
+            if (name == "--json")
+                m_result.format = fedeck_Format::Json;
+            else
+                m_result.global = true;
             return;
         }
-        std::string const value = equals != std::string_view::npos
+        std::string const value = joinedJobs ? std::string(argument.substr(2))
+                                  : equals != std::string_view::npos
                                       ? std::string(argument.substr(equals + 1))
                                       : takeValue(name);
         storeValue(name, value);
@@ -130,6 +157,10 @@ class ArgumentReader {
             m_result.restartFrom = nonEmpty(option, value);
         else if (option == "--max-diagnostics")
             m_result.maxDiagnostics = diagnosticLimit(value);
+        else if (option == "--format")
+            m_result.format = formatNamed(value);
+        else if (option == "--jobs")
+            m_result.jobs = jobCount(value);
         else
             m_result.password = value;
     }
@@ -150,14 +181,36 @@ class ArgumentReader {
         return std::stoi(value);
     }
 
+    static fedeck_Format formatNamed(std::string const& value) {
+        for (FormatName const& known : kFormats)
+            if (known.name == value) return known.format;
+        throw fedeck_UsageError("option '--format' takes text, json, sarif or github, not '" +
+                                value + "'");
+    }
+
+    // A number of decks to check at once: 1 or more, digits only.
+    static int jobCount(std::string const& value) {
+        bool const digits = !value.empty() && value.size() <= 6 &&
+                            value.find_first_not_of("0123456789") == std::string::npos;
+        if (!digits || std::stoi(value) == 0)
+            throw fedeck_UsageError(
+                "option '-j' needs a number of decks checked at once (1 or "
+                "more), not '" +
+                value + "'");
+        return std::stoi(value);
+    }
+
     void checkOperands() const {
-        if (m_result.operands.size() != m_form.operandCount)
+        size_t const given = m_result.operands.size();
+        if (given < m_form.operandCount || (given > m_form.operandCount && !m_form.moreOperands))
             throw fedeck_UsageError("'" + std::string(m_form.name) + "' needs " +
                                     std::string(m_form.operandNames));
         if (m_result.global && !m_result.until.empty())
             throw fedeck_UsageError(
                 "'--until' does not apply to 'tree --global', which runs "
                 "the whole road");
+        if (!m_result.restartFrom.empty() && given > 1)
+            throw fedeck_UsageError("a continuation job ('--restart-from') takes one DECK");
         if (!m_result.restartFrom.empty() && !m_result.until.empty())
             throw fedeck_UsageError(
                 "'--until' does not apply to a continuation job ('--restart-from')");

@@ -13,11 +13,19 @@ class fedeck_UsageError : public std::runtime_error {
 
 enum class fedeck_Command { Help, Version, Check, Tree, Model, Encrypt };
 
+// How check writes its reports: for people (text), for scripts (one JSON
+// object per deck), for code-scanning services (one SARIF 2.1.0 log), or as
+// workflow annotations of a CI system (one line per diagnostic).
+enum class fedeck_Format { Text, Json, Sarif, Github };
+
 struct fedeck_Arguments {
     fedeck_Command command = fedeck_Command::Help;
     std::string includeDir;
-    std::string until;  // empty: run every stage
-    bool json = false;
+    std::string until;                           // empty: run every stage
+    fedeck_Format format = fedeck_Format::Text;  // --format, or --json
+    // check: the decks checked at once; 0 when -j is not given (then as many
+    // as the machine has cores).
+    int jobs = 0;
     // tree: the keyword data of moved instances in the global frame.
     bool global = false;
     // check and tree: the diagnostics printed as text, at the most; -1 for
@@ -27,7 +35,7 @@ struct fedeck_Arguments {
     // new job.
     std::string restartFrom;
     std::string password;
-    // DECK for check, tree and model; IN and OUT for encrypt.
+    // DECK for tree and model, DECK... for check; IN and OUT for encrypt.
     std::vector<std::string> operands;
 };
 

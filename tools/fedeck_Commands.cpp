@@ -1,19 +1,18 @@
 #include "tools/fedeck_Commands.h"
 
-#include <filesystem>
 #include <functional>
 #include <new>
 
 #include "deck/inp_DeckWriter.h"
 #include "fedeck_Version.h"
 #include "pipeline/inp_InputFile.h"
-#include "pipeline/inp_Utf8ValidityVisitor.h"
 #include "support/ZELBasException.h"
 #include "support/aio_Stream.h"
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
-#include "tables/inp_ContactCheck.h"
 #include "tools/fedeck_Arguments.h"
+#include "tools/fedeck_CheckedDeck.h"
+#include "tools/fedeck_DeckBatch.h"
 #include "tools/fedeck_Encrypt.h"
 #include "tools/fedeck_Global.h"
 #include "tools/fedeck_Model.h"
@@ -21,50 +20,6 @@
 #include "tools/fedeck_Report.h"
 
 namespace {
-
-// The road of a converter, which `tree` runs unless told where to stop: the
-// stages up to this one, then the keywords brought to parts without reading
-// the maps (the name the report gives).
-constexpr char const* kConverterBase = "model-parameters";
-constexpr char const* kConverterStage = "reorganize-keywords";
-// What a continuation job's report names as its last stage: after expansion
-// it takes the earlier job's model and goes on from there.
-constexpr char const* kContinuationStage = "inherit-part-map";
-
-int lastStageToRun(std::string const& until) {
-    if (until.empty()) return static_cast<int>(fedeck_Pipeline::Stages().size()) - 1;
-    int const stage = fedeck_Pipeline::Find(until);
-    if (stage < 0)
-        throw fedeck_UsageError("unknown stage '" + until +
-                                "'; known stages: " + fedeck_Pipeline::StageNames());
-    return stage;
-}
-
-// Include files are looked for as written, then in the include directory:
-// the one given, or else the deck's own directory, where users keep them.
-std::string includeDirectoryFor(fedeck_Arguments const& arguments) {
-    if (!arguments.includeDir.empty()) return arguments.includeDir;
-    return std::filesystem::path(arguments.operands.front()).parent_path().string();
-}
-
-bool holdsEncryptedData(cow_List<inp_Keyword> const& keywords) {
-    for (inp_Keyword const& keyword : keywords)
-        if ((keyword.IsEncrypted() && keyword.Data().Rows() > 0) ||
-            holdsEncryptedData(keyword.Suboptions()))
-            return true;
-    return false;
-}
-
-// A deck made a part is written anew from its maps, which do not tell the
-// data of an encrypted file from the rest: once any of it was encrypted, no
-// data line of the new tree is shown.
-void withholdAllData(cow_List<inp_Keyword>& keywords) {
-    for (int i = 0; i < keywords.Length(); ++i) {
-        inp_Keyword& keyword = keywords.Get(i);
-        keyword.SetEncrypted(true);
-        withholdAllData(keyword.GetSuboptions());
-    }
-}
 
 // The earlier job of a continuation: the deck given by --restart-from, run
 // as a new job over the whole road, its include files beside it.
@@ -76,101 +31,12 @@ fedeck_Arguments earlierJobOf(fedeck_Arguments const& arguments) {
     return earlier;
 }
 
-// A deck run through the pipeline, with what the sink collected on the way.
-class CheckedDeck {
-  public:
-    CheckedDeck(fedeck_Arguments const& arguments, int lastStage)
-        : m_path(arguments.operands.front().c_str()) {
-        setIncludePath(arguments);
-        runTo(lastStage);
-        if (m_stageRun == static_cast<int>(fedeck_Pipeline::Stages().size()) - 1)
-            runOfferedChecks();
-    }
-
-    // A continuation job: the deck is parsed and expanded, then goes on from
-    // the finished model of the `earlier` job, and its new sets and surfaces
-    // are read against that model's names.
-    CheckedDeck(fedeck_Arguments const& arguments, inp_InputFile const& earlier)
-        : m_path(arguments.operands.front().c_str()) {
-        setIncludePath(arguments);
-        runTo(fedeck_Pipeline::Find("expand"));
-        if (m_stoppedEarly) return;
-        inpM_PartMap partMap = earlier.MakePartMap();
-        m_deck.InheritPartMap(partMap, false);
-        m_deck.ReadRestartSetsAndSurfaces(earlier);
-        m_stageName = kContinuationStage;
-        runOfferedChecks();
-    }
-
-    // The converter's road: the deck read and brought to parts, a flat deck
-    // made its generated part with every node and element written into it;
-    // the maps are not read.
-    struct ConverterRoad {};
-    CheckedDeck(fedeck_Arguments const& arguments, ConverterRoad)
-        : m_path(arguments.operands.front().c_str()) {
-        setIncludePath(arguments);
-        runTo(fedeck_Pipeline::Find(kConverterBase));
-        if (m_stoppedEarly) return;
-        bool const encrypted = holdsEncryptedData(m_deck.Keywords());
-        m_deck.SetInOdbConverter(true);
-        m_deck.ReorganizeKeywords(false);
-        m_stageName = kConverterStage;
-        if (encrypted) withholdAllData(m_deck.GetKeywords());
-    }
-
-    fedeck_Report Report() const {
-        return fedeck_Report(m_path, m_stageName, m_stoppedEarly, m_deck,
-                             thr_ThreadSingleton<wip_WIP>::Instance().Diagnostics());
-    }
-    inp_InputFile const& Deck() const { return m_deck; }
-
-  private:
-    void setIncludePath(fedeck_Arguments const& arguments) {
-        std::string const includeDirectory = includeDirectoryFor(arguments);
-        if (!includeDirectory.empty()) m_deck.SetIncludePath(cow_String(includeDirectory.c_str()));
-    }
-
-    void runTo(int lastStage) {
-        m_stageRun = fedeck_Pipeline::Run(m_deck, m_path, lastStage);
-        m_stageName = fedeck_Pipeline::Stages()[m_stageRun].name;
-        m_stoppedEarly = m_stageRun != lastStage;
-    }
-
-    // A checker runs every check it has: those the library offers its
-    // callers but no stage of the road runs come after the whole road.
-    void runOfferedChecks() {
-        inp_Utf8ValidityVisitor utf8;
-        utf8.VisitListAndReport(m_deck.GetKeywords());
-        // A deck without *OUTPUT gets the default output, which covers
-        // every contact pair.
-        inp_ContactCheck contact(m_deck.AssemblySurfaces(), m_deck.Keywords());
-        contact.PerformCheck(true);
-    }
-
-    cow_String m_path;  // as typed: messages name the deck as the user knows it
-    inp_InputFile m_deck;
-    int m_stageRun = 0;
-    std::string_view m_stageName;
-    bool m_stoppedEarly = false;
-};
-
 int exitStatusOf(fedeck_Report const& report) {
     return report.HasErrors() ? fedeck_EXIT_ERRORS : fedeck_EXIT_CLEAN;
 }
 
-int writeCheckReport(fedeck_Report const& report, fedeck_Arguments const& arguments,
-                     aio_ostream& out) {
-    if (arguments.json) {
-        report.WriteJson(out);
-    } else {
-        report.WriteDiagnostics(out, arguments.maxDiagnostics);
-        report.WriteSummary(out);
-    }
-    return exitStatusOf(report);
-}
-
 // What a command writes of a deck that has run, and its exit status.
-using DeckOutput = std::function<int(CheckedDeck const&, fedeck_Arguments const&)>;
+using DeckOutput = std::function<int(fedeck_CheckedDeck const&, fedeck_Arguments const&)>;
 
 // Runs the job the command line asks for and hands its deck to `output`: a
 // new job up to --until, or a job that continues the --restart-from deck.
@@ -178,16 +44,21 @@ using DeckOutput = std::function<int(CheckedDeck const&, fedeck_Arguments const&
 // then there is no model to go on from, and the later deck is not run.
 int runJob(fedeck_Arguments const& arguments, DeckOutput const& output) {
     if (arguments.restartFrom.empty())
-        return output(CheckedDeck(arguments, lastStageToRun(arguments.until)), arguments);
+        return output(fedeck_CheckedDeck(arguments, fedeck_LastStageToRun(arguments.until)),
+                      arguments);
     fedeck_Arguments const earlierArguments = earlierJobOf(arguments);
-    CheckedDeck const earlier(earlierArguments, lastStageToRun(std::string()));
+    fedeck_CheckedDeck const earlier(earlierArguments, fedeck_LastStageToRun(std::string()));
     if (earlier.Report().HasErrors()) return output(earlier, earlierArguments);
-    return output(CheckedDeck(arguments, earlier.Deck()), arguments);
+    return output(fedeck_CheckedDeck(arguments, earlier.Deck()), arguments);
 }
 
-int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
-    return runJob(arguments, [&](CheckedDeck const& checked, fedeck_Arguments const& asked) {
-        return writeCheckReport(checked.Report(), asked, out);
+// One deck runs on the main thread, as a new job or a continuation; a deck
+// that cannot be read ends the program. Several decks are a batch, where an
+// unreadable one is reported in its place.
+int runCheck(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
+    if (arguments.operands.size() > 1) return fedeck_CheckDecks(arguments, out, err);
+    return runJob(arguments, [&](fedeck_CheckedDeck const& checked, fedeck_Arguments const& asked) {
+        return fedeck_WriteCheckReport(checked.Report(), asked, out);
     });
 }
 
@@ -195,11 +66,11 @@ int runCheck(fedeck_Arguments const& arguments, aio_ostream& out) {
 // diagnostics, then those of the walk; the converter's own repeat the
 // road's and are left out.
 int runGlobalTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
-    CheckedDeck const road(arguments, lastStageToRun(std::string()));
+    fedeck_CheckedDeck const road(arguments, fedeck_LastStageToRun(std::string()));
     fedeck_Report const roadReport = road.Report();
     roadReport.WriteDiagnostics(err, arguments.maxDiagnostics);
     int status = exitStatusOf(roadReport);
-    CheckedDeck const converted(arguments, CheckedDeck::ConverterRoad{});
+    fedeck_CheckedDeck const converted(arguments, fedeck_CheckedDeck::ConverterRoad{});
     thr_ThreadSingleton<wip_WIP>::Instance().Clear();
     cow_List<inp_Keyword> tree = converted.Deck().Keywords();
     fedeck_TransformToGlobal(tree, road.Deck());
@@ -217,21 +88,22 @@ int runGlobalTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostre
 // release the data lines of the mesh keywords of parts into the maps, so a
 // tree written after them lacks the mesh.
 int runTree(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream& err) {
-    auto const write = [&](CheckedDeck const& checked) {
+    auto const write = [&](fedeck_CheckedDeck const& checked) {
         fedeck_Report const report = checked.Report();
         report.WriteDiagnostics(err, arguments.maxDiagnostics);
         inp_DeckWriter(out).Write(checked.Deck().Keywords());
         return exitStatusOf(report);
     };
     if (arguments.global) return runGlobalTree(arguments, out, err);
-    if (arguments.until.empty()) return write(CheckedDeck(arguments, CheckedDeck::ConverterRoad{}));
-    return write(CheckedDeck(arguments, lastStageToRun(arguments.until)));
+    if (arguments.until.empty())
+        return write(fedeck_CheckedDeck(arguments, fedeck_CheckedDeck::ConverterRoad{}));
+    return write(fedeck_CheckedDeck(arguments, fedeck_LastStageToRun(arguments.until)));
 }
 
 // The maps go out even when the deck has errors, as far as the stages that
 // ran built them: a script sees what the deck came to and where it stopped.
 int runModel(fedeck_Arguments const& arguments, aio_ostream& out) {
-    return runJob(arguments, [&](CheckedDeck const& checked, fedeck_Arguments const&) {
+    return runJob(arguments, [&](fedeck_CheckedDeck const& checked, fedeck_Arguments const&) {
         fedeck_Report const report = checked.Report();
         out.put('{');
         report.WriteJsonFields(out);
@@ -251,7 +123,7 @@ int runCommand(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream&
             out.print("fedeck ").print(FEDECK_VERSION).put('\n');
             return fedeck_EXIT_CLEAN;
         case fedeck_Command::Check:
-            return runCheck(arguments, out);
+            return runCheck(arguments, out, err);
         case fedeck_Command::Tree:
             return runTree(arguments, out, err);
         case fedeck_Command::Model:
@@ -286,9 +158,9 @@ std::string fedeck_UsageText() {
     std::string const stages = fedeck_Pipeline::StageNames();
     std::string const lastStage = fedeck_Pipeline::Stages().back().name;
     return "Usage:\n"
-           "  fedeck check [--include-dir DIR] [--until STAGE] [--json] [--max-diagnostics N]\n"
-           "               DECK\n"
-           "  fedeck check --restart-from EARLIER [--include-dir DIR] [--json]\n"
+           "  fedeck check [--include-dir DIR] [--until STAGE] [--format F | --json]\n"
+           "               [--max-diagnostics N] [-j N] DECK...\n"
+           "  fedeck check --restart-from EARLIER [--include-dir DIR] [--format F | --json]\n"
            "               [--max-diagnostics N] DECK\n"
            "  fedeck tree  [--include-dir DIR] [--until STAGE | --global] [--max-diagnostics N]\n"
            "               DECK\n"
@@ -309,6 +181,11 @@ std::string fedeck_UsageText() {
            "           Further lines of a message are indented by four blanks. A stage\n"
            "           that ends with errors ends the run; the summary then adds\n"
            "           \"(stopped after STAGE)\".\n"
+           "           Several decks are checked at once (see -j) and reported in the\n"
+           "           order given, then summed up in one line:\n"
+           "             fedeck: D decks, E with errors, W with warnings, U unreadable, T s\n"
+           "           A deck that cannot be read is reported so in its place:\n"
+           "             fedeck: cannot read deck: DECK\n"
            "  tree     Brings DECK to parts as a converter does (a flat deck becomes\n"
            "           its generated part, instance and assembly, with every node and\n"
            "           element) or, with --until, runs the stages up to STAGE; then\n"
@@ -340,7 +217,17 @@ std::string fedeck_UsageText() {
            "                     \"nodes\", \"elements\", \"nodeSets\", \"elementSets\",\n"
            "                     \"surfaces\"}}; \"stage\" is the last stage that\n"
            "                     ran, \"level\" is null for warnings, \"file\", \"line\" and\n"
-           "                     \"keyword\" are null where unknown\n"
+           "                     \"keyword\" are null where unknown.\n"
+           "                     Several decks give one such line each (JSON Lines),\n"
+           "                     an unreadable one {\"deck\", \"error\"}, and a last line\n"
+           "                     {\"summary\": {\"decks\", \"withErrors\", \"withWarnings\",\n"
+           "                     \"unreadable\", \"seconds\"}}\n"
+           "  --format F         text (the default), json (as --json), sarif (one SARIF\n"
+           "                     2.1.0 log of all decks, a rule per kind of message;\n"
+           "                     the summary goes to standard error) or github (one\n"
+           "                     workflow annotation per diagnostic:\n"
+           "                     ::error file=FILE,line=LINE::TEXT, then one ::notice)\n"
+           "  -j N, --jobs N     check: N decks at once (default: one per core)\n"
            "  --max-diagnostics N  print at most N diagnostics as text, then one line\n"
            "                     saying how many more there were (JSON has them all)\n"
            "  --restart-from EARLIER  check or model: DECK is a job that continues\n"

@@ -1,5 +1,8 @@
 #include "tools/fedeck_Pipeline.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "pipeline/inp_InputFile.h"
 #include "support/ZELBasAssert.h"
 #include "support/ZELBasException.h"
@@ -27,6 +30,9 @@ std::string fedeck_Pipeline::StageNames() {
 int fedeck_Pipeline::Run(inp_InputFile& deck, cow_String const& deckPath, int lastStage) {
     ZELBAS_ASSERT(lastStage >= 0 && lastStage < static_cast<int>(Stages().size()));
     thr_ThreadSingleton<wip_WIP>::Instance().Clear();
+    std::error_code ignored;
+    if (std::filesystem::is_directory(deckPath.View(), ignored))
+        throw fedeck_UnreadableDeck(std::string(deckPath.View()) + " is a directory");
     // Parse lets only the failure to open the deck out, as the deck's base
     // exception; the same exception from a later stage is a fault of the
     // program and goes on as one.

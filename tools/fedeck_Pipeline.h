@@ -12,7 +12,8 @@
 
 class inp_InputFile;
 
-// The deck file can't be opened; what() is its path as given.
+// The deck file can't be opened; what() is its path as given, and why where
+// the path names a directory.
 class fedeck_UnreadableDeck : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;

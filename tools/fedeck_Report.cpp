@@ -136,6 +136,25 @@ void writeJsonDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) {
     out.put('}');
 }
 
+// Text of an annotation: what would end the line or start an escape is
+// escaped; in a property value also what would end the property.
+void writeAnnotationText(aio_ostream& out, std::string_view text, bool property) {
+    for (char const c : text) {
+        if (c == '%')
+            out.print("%25");
+        else if (c == '\r')
+            out.print("%0D");
+        else if (c == '\n')
+            out.print("%0A");
+        else if (property && c == ':')
+            out.print("%3A");
+        else if (property && c == ',')
+            out.print("%2C");
+        else
+            out.put(c);
+    }
+}
+
 // Every keyword of the list and of the suboptions below, so that the count
 // means the same before and after the keywords are organized into a tree.
 int countKeywords(cow_List<inp_Keyword> const& keywords) {
@@ -159,6 +178,28 @@ fedeck_Report::fedeck_Report(cow_String deckPath, std::string_view stage, bool s
       m_counts(fedeck_CountModel(deck)) {
     for (wip_Diagnostic const& diagnostic : m_diagnostics)
         if (diagnostic.IsError()) ++m_errorCount;
+}
+
+std::vector<fedeck_Finding> fedeck_Report::Findings() const {
+    std::vector<fedeck_Finding> findings;
+    findings.reserve(m_diagnostics.size());
+    for (wip_Diagnostic const& diagnostic : m_diagnostics) {
+        cow_String const* file = knownFile(diagnostic);
+        findings.push_back({&diagnostic, withoutTrailingBreaks(diagnostic.text.View()),
+                            (file ? *file : m_deckPath).View(), knownLine(diagnostic)});
+    }
+    return findings;
+}
+
+void fedeck_Report::WriteGithubAnnotations(aio_ostream& out) const {
+    for (fedeck_Finding const& finding : Findings()) {
+        out.print(finding.diagnostic->IsError() ? "::error file=" : "::warning file=");
+        writeAnnotationText(out, finding.file, true);
+        if (finding.line > 0) out.print(",line=") << finding.line;
+        out.print("::");
+        writeAnnotationText(out, finding.text, false);
+        out.put('\n');
+    }
 }
 
 // FILE:LINE: where the place is known, as compilers write it, so that

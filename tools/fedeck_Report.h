@@ -13,6 +13,15 @@
 class aio_ostream;
 class inp_InputFile;
 
+// A diagnostic placed as the machine formats place it (SARIF, annotations).
+// The views point into the report's diagnostics and deck path.
+struct fedeck_Finding {
+    wip_Diagnostic const* diagnostic;
+    std::string_view text;  // without the line breaks that may end it
+    std::string_view file;  // where it points, or else the deck
+    int line;               // 0 where unknown
+};
+
 class fedeck_Report {
   public:
     // `deckPath` as the user typed it; `stage` the last stage that ran;
@@ -23,6 +32,13 @@ class fedeck_Report {
 
     int ErrorCount() const noexcept { return m_errorCount; }
     bool HasErrors() const noexcept { return m_errorCount > 0; }
+    int WarningCount() const noexcept {
+        return static_cast<int>(m_diagnostics.size()) - m_errorCount;
+    }
+    cow_String const& DeckPath() const noexcept { return m_deckPath; }
+
+    // Every diagnostic, in arrival order.
+    std::vector<fedeck_Finding> Findings() const;
 
     // One entry per diagnostic, in arrival order:
     //   FILE:LINE: warning: TEXT
@@ -49,6 +65,13 @@ class fedeck_Report {
     // The members of that object without its braces and line break, for an
     // object that carries more (the model).
     void WriteJsonFields(aio_ostream& out) const;
+    // One workflow annotation of a CI system per diagnostic:
+    //   ::error file=FILE,line=LINE::TEXT
+    //   ::warning file=FILE,line=LINE::TEXT
+    // (",line=LINE" only where the line is known). Per cent signs and line
+    // breaks of TEXT, and also colons and commas of FILE, are written as
+    // %25, %0D, %0A, %3A and %2C, as the annotation syntax asks.
+    void WriteGithubAnnotations(aio_ostream& out) const;
 
   private:
     void writeDiagnostic(aio_ostream& out, wip_Diagnostic const& diagnostic) const;

@@ -20,113 +20,13 @@
 
 #include "pipeline/inp_Module.h"
 #include "support/aio_Stream.h"
+#include "tests/common/JsonReader.h"
 #include "tests/common/TempDeckDirectory.h"
 #include "tools/fedeck_Commands.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-// Just enough JSON for the checks below: objects, arrays, strings without
-// escapes, numbers, true, false and null. A malformed text fails the test.
-struct Json {
-    enum Kind { Null, Bool, Number, String, Array, Object } kind = Null;
-    double number = 0;
-    std::string text;
-    std::vector<Json> items;
-    std::map<std::string, Json> members;
-    std::vector<std::string> order;  // member names as written
-
-    Json const& operator[](std::string const& name) const {
-        auto const found = members.find(name);
-        if (found == members.end()) ADD_FAILURE() << "no member " << name;
-        static Json const missing;
-        return found == members.end() ? missing : found->second;
-    }
-    Json const& operator[](size_t index) const {
-        if (index >= items.size()) ADD_FAILURE() << "no item " << index;
-        static Json const missing;
-        return index < items.size() ? items[index] : missing;
-    }
-    int Int() const { return static_cast<int>(number); }
-};
-
-class JsonReader {
-  public:
-    explicit JsonReader(std::string const& text) : m_text(text) {}
-    Json Read() {
-        Json value = readValue();
-        skipBlanks();
-        EXPECT_EQ(m_at, m_text.size()) << "text after the value";
-        return value;
-    }
-
-  private:
-    void skipBlanks() {
-        while (m_at < m_text.size() && std::isspace(static_cast<unsigned char>(m_text[m_at])))
-            ++m_at;
-    }
-    bool take(char c) {
-        skipBlanks();
-        if (m_at < m_text.size() && m_text[m_at] == c) return ++m_at, true;
-        return false;
-    }
-    // Escapes are kept as written.
-    std::string readString() {
-        EXPECT_TRUE(take('"'));
-        size_t end = m_at;
-        while (end < m_text.size() && m_text[end] != '"') end += m_text[end] == '\\' ? 2 : 1;
-        std::string text = m_text.substr(m_at, end - m_at);
-        m_at = end + 1;
-        return text;
-    }
-    Json readValue() {
-        Json value;
-        skipBlanks();
-        if (take('{')) {
-            value.kind = Json::Object;
-            while (!take('}')) {
-                take(',');
-                std::string name = readString();
-                EXPECT_TRUE(take(':'));
-                value.order.push_back(name);
-                value.members[name] = readValue();
-            }
-        } else if (take('[')) {
-            value.kind = Json::Array;
-            while (!take(']')) {
-                take(',');
-                value.items.push_back(readValue());
-            }
-        } else if (m_at < m_text.size() && m_text[m_at] == '"') {
-            value.kind = Json::String;
-            value.text = readString();
-        } else {
-            readWord(value);
-        }
-        return value;
-    }
-    void readWord(Json& value) {
-        for (auto const& [word, kind, truth] : {std::tuple{"true", Json::Bool, 1.0},
-                                                {"false", Json::Bool, 0.0},
-                                                {"null", Json::Null, 0.0}}) {
-            if (m_text.compare(m_at, std::strlen(word), word) == 0) {
-                m_at += std::strlen(word);
-                value.kind = kind;
-                value.number = truth;
-                return;
-            }
-        }
-        char* end = nullptr;
-        value.kind = Json::Number;
-        value.number = std::strtod(m_text.c_str() + m_at, &end);
-        ASSERT_NE(end, m_text.c_str() + m_at) << "no value at " << m_at;
-        m_at = static_cast<size_t>(end - m_text.c_str());
-    }
-
-    std::string const& m_text;
-    size_t m_at = 0;
-};
 
 std::vector<int> ints(Json const& array) {
     std::vector<int> values;
@@ -346,8 +246,8 @@ TEST_F(FedeckModel, DeckWithErrorsStillPrintsItsMapsAndExitsWithOne) {
     Json const json = run.Model();
     ASSERT_EQ(json["diagnostics"].items.size(), 2u);
     EXPECT_EQ(json["diagnostics"][1]["text"].text,
-              "in keyword *PART, file \\\"" + std::string(m_dir.Path("deck.inp").View()) +
-                  "\\\", line 2: Rigid elements, deformable elements, connectors and analytical "
+              "in keyword *PART, file \"" + std::string(m_dir.Path("deck.inp").View()) +
+                  "\", line 2: Rigid elements, deformable elements, connectors and analytical "
                   "surfaces cannot be combined within a part. This rule is violated by part BRICK");
     EXPECT_EQ(json["parts"]["BRICK"]["surfaces"]["RIGID"]["type"].text, "analytical");
     EXPECT_EQ(json["assembly"]["instances"]["MOVED"]["elements"].items.size(), 1u);
@@ -366,8 +266,7 @@ TEST_F(FedeckModel, InstanceOfAnUnknownPartStopsBeforeTheMaps) {
     EXPECT_EQ(json["stage"].text, "expand");
     ASSERT_EQ(json["diagnostics"].items.size(), 1u);
     std::string const text = json["diagnostics"][0]["text"].text;
-    EXPECT_NE(text.find(R"(: Part with the name \"NOPE\" has not been defined.)"),
-              std::string::npos)
+    EXPECT_NE(text.find(R"(: Part with the name "NOPE" has not been defined.)"), std::string::npos)
         << text;
     EXPECT_TRUE(json["parts"].members.empty());
     Json const& ghost = json["assembly"]["instances"]["GHOST"];
