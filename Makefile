@@ -4,7 +4,7 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan test-tsan bench bench-pipeline fuzz format format-check tidy install clean
+.PHONY: all build run test test-asan test-tsan bench bench-pipeline bench-many fuzz format format-check tidy install clean
 
 all: build
 
@@ -70,6 +70,15 @@ bench-pipeline: $(BUILD_REL)/CMakeCache.txt
 	$(BUILD_REL)/road_table --fedeck $(BUILD_REL)/fedeck \
 	  $$([ -f $(BUILD_REL)/floor ] && echo --floor $(BUILD_REL)/floor) \
 	  $(DECKS)/flat-100.inp $(DECKS)/parts-50x100.inp
+
+# 200 decks of about 1 MB each (20 x 20 x 20 flat decks) in one check, with
+# -j 1 and with -j 2, medians of 5 runs.
+bench-many: $(BUILD_REL)/CMakeCache.txt
+	cmake --build $(BUILD_REL) -j $(JOBS) --target many_decks fedeck_cli generate_deck
+	mkdir -p $(DECKS)/many
+	test -f $(DECKS)/many/deck-199.inp || { $(BUILD_REL)/generate_deck 20 20 20 $(DECKS)/many/deck-0.inp && \
+	  for i in $$(seq 1 199); do cp $(DECKS)/many/deck-0.inp $(DECKS)/many/deck-$$i.inp; done; }
+	$(BUILD_REL)/many_decks --fedeck $(BUILD_REL)/fedeck $(DECKS)/many/deck-*.inp
 
 # The parser under libFuzzer for a minute, starting from a copy of the seed
 # corpus so the checked-in seeds stay as they are. A crash, a leak or an
