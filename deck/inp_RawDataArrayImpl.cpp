@@ -1,5 +1,6 @@
 #include "deck/inp_RawDataArrayImpl.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
@@ -48,50 +49,95 @@ double parseDouble(char const* text) {
 
 inp_RawDataArrayImpl::inp_RawDataArrayImpl() = default;
 
+// The copy packs every row that is left into one text block of its own.
 inp_RawDataArrayImpl::inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other) {
     if (other.nrows == 0) return;
+    size_t total = 0;
+    int live = 0;
+    for (int i = 0; i < other.nrows; ++i) {
+        if (other.rows[i] == nullptr) continue;  // a released row
+        total += other.rowSize(i);
+        ++live;
+    }
     rows = static_cast<char**>(mem_Malloc(sizeof(char*) * static_cast<size_t>(other.nrows)));
     ncols = static_cast<int*>(mem_Malloc(sizeof(int) * static_cast<size_t>(other.nrows)));
-    if (!rows || !ncols) {
+    blocks = static_cast<TextBlock*>(mem_Malloc(sizeof(TextBlock)));
+    char* text = live > 0 ? static_cast<char*>(mem_Malloc(total)) : nullptr;
+    if (!rows || !ncols || !blocks || (live > 0 && !text)) {
         mem_Free(rows);
         mem_Free(ncols);
+        mem_Free(blocks);
+        mem_Free(text);
         rows = nullptr;
         ncols = nullptr;
+        blocks = nullptr;
         throw inp_MemoryException();
     }
     allocatedSize = other.nrows;
+    nrows = other.nrows;
+    allocatedBlocks = 1;
+    nblocks = 1;
+    blocks[0] = TextBlock{text, total, total, 0, live};
+    char* next = text;
     for (int i = 0; i < other.nrows; ++i) {
-        if (other.rows[i] == nullptr) {  // a released row
-            rows[i] = nullptr;
-            ncols[i] = 0;
-            nrows = i + 1;
-            continue;
-        }
-        // A row block holds the line with zeros for commas: its size is the
-        // position of the last item's terminator plus one.
-        char const* last = other.Item(i, other.ncols[i] - 1);
-        size_t size = static_cast<size_t>(last - other.rows[i]) + std::strlen(last) + 1;
-        char* block = static_cast<char*>(mem_Malloc(size));
-        if (!block) throw inp_MemoryException();
-        std::memcpy(block, other.rows[i], size);
-        rows[i] = block;
         ncols[i] = other.ncols[i];
-        nrows = i + 1;
+        rows[i] = nullptr;
+        if (other.rows[i] == nullptr) continue;
+        size_t const size = other.rowSize(i);
+        std::memcpy(next, other.rows[i], size);
+        rows[i] = next;
+        next += size;
     }
 }
 
 inp_RawDataArrayImpl::~inp_RawDataArrayImpl() {
-    for (int i = 0; i < nrows; ++i) mem_Free(rows[i]);
+    for (int k = 0; k < nownRows; ++k) mem_Free(rows[ownRows[k]]);
+    for (int k = 0; k < nblocks; ++k) mem_Free(blocks[k].text);
+    mem_Free(ownRows);
+    mem_Free(blocks);
     mem_Free(rows);
     mem_Free(ncols);
+}
+
+// A row block holds the line with zeros for commas: its size is the position
+// of the last item's terminator plus one.
+size_t inp_RawDataArrayImpl::rowSize(int i) const {
+    char const* last = Item(i, ncols[i] - 1);
+    return static_cast<size_t>(last - rows[i]) + std::strlen(last) + 1;
+}
+
+bool inp_RawDataArrayImpl::hasOwnBlock(int i) const noexcept {
+    return nownRows > 0 && std::binary_search(ownRows, ownRows + nownRows, i);
+}
+
+inp_RawDataArrayImpl::TextBlock& inp_RawDataArrayImpl::blockOf(int i) {
+    TextBlock* const after =
+        std::upper_bound(blocks, blocks + nblocks, i,
+                         [](int row, TextBlock const& block) { return row < block.firstRow; });
+    ZELBAS_ASSERT(after != blocks);
+    return after[-1];
+}
+
+void inp_RawDataArrayImpl::dropRowText(int i) noexcept {
+    if (rows[i] == nullptr) return;
+    if (hasOwnBlock(i)) {
+        mem_Free(rows[i]);
+        int* const own = std::lower_bound(ownRows, ownRows + nownRows, i);
+        std::memmove(own, own + 1, sizeof(int) * static_cast<size_t>(ownRows + nownRows - own - 1));
+        --nownRows;
+    } else if (TextBlock& block = blockOf(i); --block.liveRows == 0) {
+        mem_Free(block.text);
+        block.text = nullptr;
+        block.used = block.capacity = 0;
+    }
+    rows[i] = nullptr;
 }
 
 void inp_RawDataArrayImpl::ReleaseRows(int first, int last) {
     ZELBAS_ASSERT_TEXT(first >= 0 && first <= last && last <= nrows,
                        "first >= 0 && first <= last && last <= nrows");
     for (int i = first; i < last; ++i) {
-        mem_Free(rows[i]);
-        rows[i] = nullptr;
+        dropRowText(i);
         ncols[i] = 0;
     }
 }
@@ -127,6 +173,33 @@ char* inp_RawDataArrayImpl::copyLine(char const* line, size_t& length) {
     return block;
 }
 
+char* inp_RawDataArrayImpl::packedRoom(size_t size) {
+    if (nblocks > 0) {
+        TextBlock& last = blocks[nblocks - 1];
+        if (last.text != nullptr && last.capacity - last.used >= size) {
+            char* room = last.text + last.used;
+            last.used += size;
+            ++last.liveRows;
+            return room;
+        }
+    }
+    if (nblocks == allocatedBlocks) {
+        int const newSize = allocatedBlocks > 0 ? allocatedBlocks * 2 : 1;
+        auto* newBlocks = static_cast<TextBlock*>(
+            mem_Realloc(blocks, sizeof(TextBlock) * static_cast<size_t>(newSize)));
+        if (!newBlocks) throw inp_MemoryException();
+        blocks = newBlocks;
+        allocatedBlocks = newSize;
+    }
+    size_t const grown =
+        nblocks > 0 ? std::min(2 * blocks[nblocks - 1].capacity, kMaxBlockSize) : 0;
+    size_t const capacity = std::max(size, grown);
+    char* text = static_cast<char*>(mem_Malloc(capacity));
+    if (!text) throw inp_MemoryException();
+    blocks[nblocks++] = TextBlock{text, size, capacity, nrows, 1};
+    return text;
+}
+
 int inp_RawDataArrayImpl::splitAtCommas(char* block, size_t length) {
     int columns = 1;
     // Most lines hold no quote: then every comma separates, and the library's
@@ -155,17 +228,22 @@ int inp_RawDataArrayImpl::splitAtCommas(char* block, size_t length) {
 
 void inp_RawDataArrayImpl::Append(char const* line) {
     growIfFull();
-    size_t length = 0;
-    char* block = copyLine(line ? line : "", length);
-    rows[nrows] = block;
-    ncols[nrows] = splitAtCommas(block, length);
+    if (!line) line = "";
+    size_t const length = std::strlen(line);
+    char* text = packedRoom(length + 1);
+    std::memcpy(text, line, length + 1);
+    rows[nrows] = text;
+    ncols[nrows] = splitAtCommas(text, length);
     ++nrows;
 }
 
 void inp_RawDataArrayImpl::AppendRaw(char const* line) {
     growIfFull();
-    size_t length = 0;
-    rows[nrows] = copyLine(line ? line : "", length);
+    if (!line) line = "";
+    size_t const length = std::strlen(line);
+    char* text = packedRoom(length + 1);
+    std::memcpy(text, line, length + 1);
+    rows[nrows] = text;
     ncols[nrows] = 1;
     ++nrows;
 }
@@ -284,7 +362,18 @@ inp_DataArrayImpl& inp_RawDataArrayImpl::Set(int i, int j, cow_String const& tex
     }
     size_t length = 0;
     char* block = copyLine(line.CStr(), length);
-    mem_Free(rows[i]);
+    auto* newOwnRows =
+        static_cast<int*>(mem_Realloc(ownRows, sizeof(int) * static_cast<size_t>(nownRows + 1)));
+    if (!newOwnRows) {
+        mem_Free(block);
+        throw inp_MemoryException();
+    }
+    ownRows = newOwnRows;
+    dropRowText(i);
+    int* const own = std::lower_bound(ownRows, ownRows + nownRows, i);
+    std::memmove(own + 1, own, sizeof(int) * static_cast<size_t>(ownRows + nownRows - own));
+    *own = i;
+    ++nownRows;
     rows[i] = block;
     ncols[i] = splitAtCommas(block, length);
     return *this;

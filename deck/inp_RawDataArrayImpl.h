@@ -1,9 +1,12 @@
 #pragma once
-// Data lines kept as the text that was read. Each row is one heap block
-// holding the line with every separating comma overwritten by a zero byte, so
-// the items of a row are consecutive zero-terminated strings and a row costs
-// one allocation however many items it has. Nothing is typed or converted
-// until somebody asks.
+// Data lines kept as the text that was read. A row holds the line with every
+// separating comma overwritten by a zero byte, so the items of a row are
+// consecutive zero-terminated strings. Appended rows are packed one after the
+// other into text blocks that grow with the keyword (the first just fits its
+// line, each next one is twice the size of the one before, up to
+// kMaxBlockSize), so that a million data lines cost some hundreds of
+// allocations, not a million. A row rewritten by Set() gets a block of its
+// own. Nothing is typed or converted until somebody asks.
 //
 // Not thread-safe, and not const-pure: AsDouble rewrites a D exponent letter
 // in the stored text so that a second read needs no work.
@@ -43,11 +46,34 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
     // Frees the text of rows [first, last): they read as rows without items
     // from then on. For a reader that has taken what those rows said and
     // whose keyword's data go afterwards anyway: the memory comes free while
-    // the reader builds what replaces it.
+    // the reader builds what replaces it, a text block as soon as none of
+    // its rows is left.
     void ReleaseRows(int first, int last);
 
+    // The largest text block rows are packed into.
+    static constexpr size_t kMaxBlockSize = size_t{256} << 10;
+
   private:
+    // A block of packed row text: rows [firstRow, next block's firstRow).
+    struct TextBlock {
+        char* text;  // null once every row in it is released
+        size_t used;
+        size_t capacity;
+        int firstRow;
+        int liveRows;  // rows of the block not yet released or rewritten
+    };
+
     void growIfFull();
+    // Room for `size` bytes at the end of the last text block, or in a new
+    // block; the row being appended is counted in the block.
+    char* packedRoom(size_t size);
+    // The block that holds the packed row `i`.
+    TextBlock& blockOf(int i);
+    // Lets go of row `i`'s text, whether packed or a block of its own.
+    void dropRowText(int i) noexcept;
+    bool hasOwnBlock(int i) const noexcept;
+    // The bytes of row `i`'s text, the last terminator included.
+    size_t rowSize(int i) const;
     // Copies `line` into a new block and returns it with the length in `length`.
     static char* copyLine(char const* line, size_t& length);
     // Overwrites separating commas (outside quotes) with zeros; returns the item count.
@@ -57,6 +83,12 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
 
     int nrows = 0;          // rows in use
     int allocatedSize = 0;  // rows allocated
-    char** rows = nullptr;  // one block per row
+    char** rows = nullptr;  // each row's text: in a text block, or a block of its own
     int* ncols = nullptr;   // items per row
+    TextBlock* blocks = nullptr;
+    int nblocks = 0;
+    int allocatedBlocks = 0;
+    // The rows rewritten by Set(), ascending: each has a block of its own.
+    int* ownRows = nullptr;
+    int nownRows = 0;
 };

@@ -26,5 +26,6 @@ int main(int argc, char** argv) {
     DeckModule const module;
     aio_ofstream out;
     out.attach(1);  // standard output, buffered: a printed deck may run to millions of lines
+    fedeck_LeaveModelsToProcessExit();
     return fedeck_Main(argc, argv, out, aio_cerr());
 }

@@ -1,6 +1,7 @@
 #include "tools/fedeck_CheckedDeck.h"
 
 #include <filesystem>
+#include <vector>
 
 #include "pipeline/inp_Utf8ValidityVisitor.h"
 #include "support/thr_Singleton.h"
@@ -58,7 +59,7 @@ int fedeck_LastStageToRun(std::string const& until) {
 }
 
 fedeck_CheckedDeck::fedeck_CheckedDeck(fedeck_Arguments const& arguments, int lastStage)
-    : m_path(arguments.operands.front().c_str()) {
+    : m_path(arguments.operands.front().c_str()), m_deck(std::make_unique<inp_InputFile>()) {
     setIncludePath(arguments);
     runTo(lastStage);
     if (m_stageRun == static_cast<int>(fedeck_Pipeline::Stages().size()) - 1) runOfferedChecks();
@@ -66,41 +67,48 @@ fedeck_CheckedDeck::fedeck_CheckedDeck(fedeck_Arguments const& arguments, int la
 
 fedeck_CheckedDeck::fedeck_CheckedDeck(fedeck_Arguments const& arguments,
                                        inp_InputFile const& earlier)
-    : m_path(arguments.operands.front().c_str()) {
+    : m_path(arguments.operands.front().c_str()), m_deck(std::make_unique<inp_InputFile>()) {
     setIncludePath(arguments);
     runTo(fedeck_Pipeline::Find("expand"));
     if (m_stoppedEarly) return;
     inpM_PartMap partMap = earlier.MakePartMap();
-    m_deck.InheritPartMap(partMap, false);
-    m_deck.ReadRestartSetsAndSurfaces(earlier);
+    m_deck->InheritPartMap(partMap, false);
+    m_deck->ReadRestartSetsAndSurfaces(earlier);
     m_stageName = kContinuationStage;
     runOfferedChecks();
 }
 
 fedeck_CheckedDeck::fedeck_CheckedDeck(fedeck_Arguments const& arguments, ConverterRoad)
-    : m_path(arguments.operands.front().c_str()) {
+    : m_path(arguments.operands.front().c_str()), m_deck(std::make_unique<inp_InputFile>()) {
     setIncludePath(arguments);
     runTo(fedeck_Pipeline::Find(kConverterBase));
     if (m_stoppedEarly) return;
-    bool const encrypted = holdsEncryptedData(m_deck.Keywords());
-    m_deck.SetInOdbConverter(true);
-    m_deck.ReorganizeKeywords(false);
+    bool const encrypted = holdsEncryptedData(m_deck->Keywords());
+    m_deck->SetInOdbConverter(true);
+    m_deck->ReorganizeKeywords(false);
     m_stageName = kConverterStage;
-    if (encrypted) withholdAllData(m_deck.GetKeywords());
+    if (encrypted) withholdAllData(m_deck->GetKeywords());
+}
+
+fedeck_CheckedDeck::~fedeck_CheckedDeck() = default;
+
+void fedeck_CheckedDeck::LeaveToProcessExit() {
+    static auto* const left = new std::vector<inp_InputFile*>();
+    left->push_back(m_deck.release());
 }
 
 fedeck_Report fedeck_CheckedDeck::Report() const {
-    return fedeck_Report(m_path, m_stageName, m_stoppedEarly, m_deck,
+    return fedeck_Report(m_path, m_stageName, m_stoppedEarly, *m_deck,
                          thr_ThreadSingleton<wip_WIP>::Instance().Diagnostics());
 }
 
 void fedeck_CheckedDeck::setIncludePath(fedeck_Arguments const& arguments) {
     std::string const includeDirectory = includeDirectoryFor(arguments);
-    if (!includeDirectory.empty()) m_deck.SetIncludePath(cow_String(includeDirectory.c_str()));
+    if (!includeDirectory.empty()) m_deck->SetIncludePath(cow_String(includeDirectory.c_str()));
 }
 
 void fedeck_CheckedDeck::runTo(int lastStage) {
-    m_stageRun = fedeck_Pipeline::Run(m_deck, m_path, lastStage);
+    m_stageRun = fedeck_Pipeline::Run(*m_deck, m_path, lastStage);
     m_stageName = fedeck_Pipeline::Stages()[m_stageRun].name;
     m_stoppedEarly = m_stageRun != lastStage;
 }
@@ -109,9 +117,9 @@ void fedeck_CheckedDeck::runTo(int lastStage) {
 // but no stage of the road runs come after the whole road.
 void fedeck_CheckedDeck::runOfferedChecks() {
     inp_Utf8ValidityVisitor utf8;
-    utf8.VisitListAndReport(m_deck.GetKeywords());
+    utf8.VisitListAndReport(m_deck->GetKeywords());
     // A deck without *OUTPUT gets the default output, which covers every
     // contact pair.
-    inp_ContactCheck contact(m_deck.AssemblySurfaces(), m_deck.Keywords());
+    inp_ContactCheck contact(m_deck->AssemblySurfaces(), m_deck->Keywords());
     contact.PerformCheck(true);
 }

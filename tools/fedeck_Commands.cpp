@@ -35,6 +35,16 @@ int exitStatusOf(fedeck_Report const& report) {
     return report.HasErrors() ? fedeck_EXIT_ERRORS : fedeck_EXIT_CLEAN;
 }
 
+// Set by a program that ends as soon as its command is done.
+bool g_modelsLeftToProcessExit = false;
+
+// Passes `status` on; the deck's model is left to the end of the process
+// when the program has asked for that.
+int leaveToProcessExit(int status, fedeck_CheckedDeck& checked) {
+    if (g_modelsLeftToProcessExit) checked.LeaveToProcessExit();
+    return status;
+}
+
 // What a command writes of a deck that has run, and its exit status.
 using DeckOutput = std::function<int(fedeck_CheckedDeck const&, fedeck_Arguments const&)>;
 
@@ -43,13 +53,18 @@ using DeckOutput = std::function<int(fedeck_CheckedDeck const&, fedeck_Arguments
 // Of a continuation, the earlier deck is output only when it has errors:
 // then there is no model to go on from, and the later deck is not run.
 int runJob(fedeck_Arguments const& arguments, DeckOutput const& output) {
-    if (arguments.restartFrom.empty())
-        return output(fedeck_CheckedDeck(arguments, fedeck_LastStageToRun(arguments.until)),
-                      arguments);
+    if (arguments.restartFrom.empty()) {
+        fedeck_CheckedDeck checked(arguments, fedeck_LastStageToRun(arguments.until));
+        return leaveToProcessExit(output(checked, arguments), checked);
+    }
     fedeck_Arguments const earlierArguments = earlierJobOf(arguments);
-    fedeck_CheckedDeck const earlier(earlierArguments, fedeck_LastStageToRun(std::string()));
-    if (earlier.Report().HasErrors()) return output(earlier, earlierArguments);
-    return output(fedeck_CheckedDeck(arguments, earlier.Deck()), arguments);
+    fedeck_CheckedDeck earlier(earlierArguments, fedeck_LastStageToRun(std::string()));
+    if (earlier.Report().HasErrors())
+        return leaveToProcessExit(output(earlier, earlierArguments), earlier);
+    fedeck_CheckedDeck later(arguments, earlier.Deck());
+    int const status = output(later, arguments);
+    leaveToProcessExit(status, later);
+    return leaveToProcessExit(status, earlier);
 }
 
 // One deck runs on the main thread, as a new job or a continuation; a deck
@@ -248,6 +263,10 @@ std::string fedeck_UsageText() {
            "  1  the deck has errors; encrypt: the encrypted file could not be written\n"
            "  2  usage error, or the deck (encrypt: IN) cannot be read\n"
            "  3  internal error of the program\n";
+}
+
+void fedeck_LeaveModelsToProcessExit() {
+    g_modelsLeftToProcessExit = true;
 }
 
 int fedeck_Main(int argc, char const* const* argv, aio_ostream& out, aio_ostream& err) {

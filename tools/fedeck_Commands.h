@@ -18,6 +18,13 @@ enum fedeck_ExitStatus : int {
 // The usage text, with the stage names of the pipeline.
 std::string fedeck_UsageText();
 
+// For a program that ends right after fedeck_Main: the model of a single
+// deck is not freed when its command is done but left to the end of the
+// process, which takes it back at once (a big mesh is millions of records,
+// each freed on its own otherwise). Decks checked many at once are freed as
+// they go, so that memory stays bounded by the decks in flight.
+void fedeck_LeaveModelsToProcessExit();
+
 // Runs the command of argv. Results go to `out`; usage errors, and the
 // diagnostics of `tree`, to `err`. The deck module must be initialised.
 int fedeck_Main(int argc, char const* const* argv, aio_ostream& out, aio_ostream& err);
