@@ -38,6 +38,23 @@ TEST(RawDataSplit, CommasOutsideQuotesSeparateItems) {
     EXPECT_FALSE(data.HasRowContinuation(1));
 }
 
+// Lines long enough to be split eight bytes at a time: commas in every
+// position of a word, a quote met after some words, commas inside the quotes.
+TEST(RawDataSplit, LongLinesSplitLikeShortOnesWhereverTheCommasAndQuotesFall) {
+    for (size_t shift = 0; shift < 9; ++shift) {
+        std::string const lead(shift, ' ');
+        std::string const plain = lead + "1,22,333,4444,55555,666666,7777777,88888888,,x";
+        std::string const quoted = lead + "a,bb,ccc,dddd,\"e,ee,eee\",f,\"g\",h,i";
+        inp_RawDataArrayImpl const data = arrayOf({plain.c_str(), quoted.c_str()});
+        ASSERT_EQ(data.Cols(0), 10) << shift;
+        EXPECT_EQ(data.AsInt(0, 7), 88888888);
+        EXPECT_FALSE(data.HasValue(0, 8));
+        ASSERT_EQ(data.Cols(1), 9) << shift;
+        EXPECT_STREQ(data.Item(1, 4), "\"e,ee,eee\"");
+        EXPECT_STREQ(data.Item(1, 8), "i");
+    }
+}
+
 TEST(RawDataSplit, AppendRawKeepsTheLineAsOneItem) {
     inp_RawDataArrayImpl data;
     data.AppendRaw("Title, with commas, kept");

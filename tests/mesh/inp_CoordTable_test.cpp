@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <set>
 #include <vector>
 
 #include "mesh/omi_IntTableCoord.h"
@@ -60,6 +61,39 @@ TEST(InpCoordTableOwnership, CopiesOwnTheirRecords) {
     copy.Clear();
     EXPECT_TRUE(copy.IsEmpty());
     EXPECT_EQ(assigned.ConstGet(-2000).x, -2000.0);
+}
+
+// Records live in blocks of the table: many insertions over several blocks,
+// removals whose room the next insertions take, a copy made in between and a
+// table moved: every record keeps its value and its address while in its
+// table, and no two labels share a record.
+TEST(InpCoordTableOwnership, PooledRecordsStayPutAndRemovedRoomsAreReused) {
+    omi_IntTableCoord table;
+    constexpr int kNodes = 3 * omi_IntTableCoord::kMaxBlockRecords;
+    for (int label = 1; label <= kNodes; ++label) table.Insert(label, inp_Coord(label, 1, 2));
+    inp_Coord const* const kept = table.Find(kNodes - 1);
+    std::set<inp_Coord const*> removedRooms;
+    for (int label = 2; label <= kNodes; label += 2) {
+        removedRooms.insert(table.Find(label));
+        EXPECT_TRUE(table.Remove(label));
+    }
+    omi_IntTableCoord const copy(table);
+    for (int label = -1; label >= -kNodes / 2; --label) table.Insert(label, inp_Coord(label, 0, 0));
+    EXPECT_EQ(table.Size(), kNodes);
+    EXPECT_EQ(table.Find(kNodes - 1), kept);
+    EXPECT_EQ(table.Find(kNodes), nullptr);
+    for (int label = -1; label >= -kNodes / 2; --label)
+        ASSERT_TRUE(removedRooms.count(table.Find(label))) << "no reuse for " << label;
+    std::set<inp_Coord const*> records;
+    for (auto [label, value] : table) {
+        EXPECT_EQ(omi_IntTableCoord::Record(value).x, label);
+        EXPECT_TRUE(records.insert(&omi_IntTableCoord::Record(value)).second) << label;
+    }
+    EXPECT_EQ(copy.Size(), kNodes / 2);
+    for (int label = 1; label <= kNodes; label += 2) ASSERT_EQ(copy.ConstGet(label).x, label);
+    omi_IntTableCoord moved(std::move(table));
+    EXPECT_EQ(moved.ConstGet(-7).x, -7.0);
+    EXPECT_EQ(moved.Find(kNodes - 1), kept);
 }
 
 TEST(InpCoordTableSharing, WriteThroughOneCopyDoesNotShowInTheOther) {
