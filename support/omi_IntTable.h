@@ -343,10 +343,15 @@ class omi_BasicIntTable {
     };
 
     omi_BasicIntTable() = default;
-    omi_BasicIntTable(omi_BasicIntTable const&) = default;
+    // A copy has leaves of its own: the leaf cache is not copied.
+    omi_BasicIntTable(omi_BasicIntTable const& other) : m_top(other.m_top), m_size(other.m_size) {}
     omi_BasicIntTable(omi_BasicIntTable&& other) noexcept
-        : m_top(std::move(other.m_top)), m_size(std::exchange(other.m_size, 0)) {}
+        : m_top(std::move(other.m_top)), m_size(std::exchange(other.m_size, 0)) {
+        other.forgetWriteLeaf();
+    }
     omi_BasicIntTable& operator=(omi_BasicIntTable other) noexcept {
+        forgetWriteLeaf();
+        other.forgetWriteLeaf();
         m_top.swap(other.m_top);
         std::swap(m_size, other.m_size);
         return *this;
@@ -387,6 +392,7 @@ class omi_BasicIntTable {
     }
 
     void Clear() {
+        forgetWriteLeaf();
         Top().swap(m_top);
         m_size = 0;
     }
@@ -446,15 +452,24 @@ class omi_BasicIntTable {
         return middle != nullptr ? middle->Find(omi_detail::MiddleIndex(slot)) : nullptr;
     }
 
+    // Insertions come in runs of neighbouring keys (the labels of a mesh
+    // block, a generated set): the leaf of the last one is kept, so that the
+    // next insertion into it skips both directories.
     Leaf& leafForWriting(uint32_t slot) {
+        uint32_t const leafNumber = slot >> omi_detail::kLeafBits;
+        if (m_writeLeaf != nullptr && m_writeLeafNumber == leafNumber) return *m_writeLeaf;
         Middle& middle = m_top.FindOrCreate(omi_detail::TopIndex(slot));
         try {
-            return middle.FindOrCreate(omi_detail::MiddleIndex(slot));
+            m_writeLeaf = &middle.FindOrCreate(omi_detail::MiddleIndex(slot));
         } catch (...) {
             if (middle.IsEmpty()) m_top.Erase(omi_detail::TopIndex(slot));
             throw;
         }
+        m_writeLeafNumber = leafNumber;
+        return *m_writeLeaf;
     }
+
+    void forgetWriteLeaf() noexcept { m_writeLeaf = nullptr; }
 
     // The slot of the leaf must be absent. A leaf made for this value alone
     // is dropped again if building the value throws.
@@ -470,6 +485,7 @@ class omi_BasicIntTable {
     }
 
     void dropEmptyLeaf(uint32_t slot) {
+        forgetWriteLeaf();
         uint32_t const top = omi_detail::TopIndex(slot);
         Middle& middle = *m_top.Find(top);
         middle.Erase(omi_detail::MiddleIndex(slot));
@@ -503,6 +519,12 @@ class omi_BasicIntTable {
 
     Top m_top;
     int64_t m_size = 0;
+    // The leaf the last insertion went to, and its slots' number above the
+    // leaf bits; null when there is none or it may be gone. Leaves never
+    // move, so the pointer holds until a leaf is dropped or the table is
+    // cleared, swapped or moved from.
+    Leaf* m_writeLeaf = nullptr;
+    uint32_t m_writeLeafNumber = 0;
 };
 
 // The classic walk over a table: First, Next, IsDone, in ascending key order.

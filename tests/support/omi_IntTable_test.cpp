@@ -163,4 +163,41 @@ TEST(OmiIntTableCopies, MovedFromTableIsEmptyAndReusable) {
     EXPECT_EQ(target.ConstGet(3000), 3000);
 }
 
+// Each insertion below lands in the leaf of the one before it, which the
+// table keeps at hand: a leaf freed by removals, a table cleared, copied,
+// assigned or moved must never let an insertion reach a leaf it no longer
+// owns (the sanitizer builds see such a write).
+TEST(OmiIntTableCopies, InsertionsAfterFreeingCopyingOrMovingLandInTheirOwnTable) {
+    omi_IntTable<int> table;
+    table.Insert(5, 5);
+    table.Remove(5);  // frees the leaf the last insertion used
+    table.Insert(6, 6);
+    EXPECT_EQ(KeysOf(table), (std::vector<int>{6}));
+
+    omi_IntTable<int> copy(table);
+    copy.Insert(7, 7);
+    table.Insert(8, 8);
+    EXPECT_EQ(KeysOf(copy), (std::vector<int>{6, 7}));
+    EXPECT_EQ(KeysOf(table), (std::vector<int>{6, 8}));
+
+    omi_IntTable<int> assigned;
+    assigned.Insert(9, 9);
+    assigned = copy;
+    assigned.Insert(10, 10);
+    copy.Insert(11, 11);
+    EXPECT_EQ(KeysOf(assigned), (std::vector<int>{6, 7, 10}));
+    EXPECT_EQ(KeysOf(copy), (std::vector<int>{6, 7, 11}));
+
+    omi_IntTable<int> moved(std::move(table));
+    table.Insert(12, 12);  // NOLINT(bugprone-use-after-move): a moved-from table is reusable
+    moved.Insert(13, 13);
+    EXPECT_EQ(KeysOf(table), (std::vector<int>{12}));
+    EXPECT_EQ(KeysOf(moved), (std::vector<int>{6, 8, 13}));
+
+    moved.Clear();
+    moved.Insert(14, 14);
+    EXPECT_EQ(KeysOf(moved), (std::vector<int>{14}));
+    EXPECT_EQ(moved.Size(), 1);
+}
+
 }  // namespace
