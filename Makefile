@@ -71,12 +71,12 @@ bench-pipeline: $(BUILD_REL)/CMakeCache.txt
 	  $$([ -f $(BUILD_REL)/floor ] && echo --floor $(BUILD_REL)/floor) \
 	  $(DECKS)/flat-100.inp $(DECKS)/parts-50x100.inp
 
-# 200 decks of about 1 MB each (20 x 20 x 20 flat decks) in one check, with
+# 200 decks of about 1 MB each (22 x 22 x 22 flat decks) in one check, with
 # -j 1 and with -j 2, medians of 5 runs.
 bench-many: $(BUILD_REL)/CMakeCache.txt
 	cmake --build $(BUILD_REL) -j $(JOBS) --target many_decks fedeck_cli generate_deck
 	mkdir -p $(DECKS)/many
-	test -f $(DECKS)/many/deck-199.inp || { $(BUILD_REL)/generate_deck 20 20 20 $(DECKS)/many/deck-0.inp && \
+	test -f $(DECKS)/many/deck-199.inp || { $(BUILD_REL)/generate_deck 22 22 22 $(DECKS)/many/deck-0.inp && \
 	  for i in $$(seq 1 199); do cp $(DECKS)/many/deck-0.inp $(DECKS)/many/deck-$$i.inp; done; }
 	$(BUILD_REL)/many_decks --fedeck $(BUILD_REL)/fedeck $(DECKS)/many/deck-*.inp
 
