@@ -12,8 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "pipeline/inp_Module.h"
-#include "support/aio_Stream.h"
+#include "tests/common/InProcessFedeck.h"
 #include "tests/common/JsonReader.h"
 #include "tests/common/TempDeckDirectory.h"
 #include "tools/fedeck_Arguments.h"
@@ -23,40 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class DeckModuleEnvironment : public testing::Environment {
-  public:
-    void SetUp() override { ZELI2sInpMod_initialize(m_count); }
-    void TearDown() override { ZELI2sInpMod_finalize(m_count); }
-
-  private:
-    int m_count = 0;
-};
 testing::Environment* const g_module = testing::AddGlobalTestEnvironment(new DeckModuleEnvironment);
-
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-Outcome runFedeck(std::vector<std::string> const& arguments) {
-    std::vector<char const*> argv{"fedeck"};
-    for (std::string const& argument : arguments) argv.push_back(argument.c_str());
-    aio_ostringstream out;
-    aio_ostringstream err;
-    int const status = fedeck_Main(static_cast<int>(argv.size()), argv.data(), out, err);
-    return {status, std::string(out.Str().View()), std::string(err.Str().View())};
-}
-
-std::vector<std::string> linesOf(std::string const& text) {
-    std::vector<std::string> lines;
-    for (size_t start = 0; start < text.size();) {
-        size_t const end = text.find('\n', start);
-        lines.push_back(text.substr(start, end - start));
-        start = end == std::string::npos ? text.size() : end + 1;
-    }
-    return lines;
-}
 
 // A small brick of `elements` hexahedra in a row, and what deck `index`
 // plants in it: nothing, an element on a node that is not there, a keyword
@@ -117,8 +83,8 @@ TEST_F(ManyDecks, TwoThreadsReportWhatSingleRunsReportInTheOrderGiven) {
     std::string singleJson, singleText;
     int worst = 0, withErrors = 0, withWarnings = 0;
     for (std::string const& deck : m_decks) {
-        Outcome const json = runFedeck({"check", "--json", deck});
-        Outcome const text = runFedeck({"check", deck});
+        FedeckOutcome const json = RunFedeckInProcess({"check", "--json", deck});
+        FedeckOutcome const text = RunFedeckInProcess({"check", deck});
         ASSERT_EQ(json.status, text.status);
         singleJson += json.out;
         singleText += text.out;
@@ -132,9 +98,9 @@ TEST_F(ManyDecks, TwoThreadsReportWhatSingleRunsReportInTheOrderGiven) {
     ASSERT_EQ(worst, fedeck_EXIT_ERRORS);
     ASSERT_GT(withErrors, 0);
 
-    Outcome const json = runFedeck(with({"check", "-j", "2", "--json"}));
+    FedeckOutcome const json = RunFedeckInProcess(with({"check", "-j", "2", "--json"}));
     EXPECT_EQ(json.status, worst);
-    std::vector<std::string> lines = linesOf(json.out);
+    std::vector<std::string> lines = LinesOf(json.out);
     ASSERT_EQ(lines.size(), kDecks + 1u);
     Json const summary = JsonReader(lines.back()).Read()["summary"];
     EXPECT_EQ(summary["decks"].Int(), kDecks);
@@ -150,7 +116,7 @@ TEST_F(ManyDecks, TwoThreadsReportWhatSingleRunsReportInTheOrderGiven) {
     }
     EXPECT_EQ(joined, singleJson);
 
-    Outcome const text = runFedeck(with({"check", "-j2"}));
+    FedeckOutcome const text = RunFedeckInProcess(with({"check", "-j2"}));
     EXPECT_EQ(text.status, worst);
     ASSERT_TRUE(text.out.starts_with(singleText));
     std::string const closing = text.out.substr(singleText.size());
@@ -166,11 +132,11 @@ TEST_F(ManyDecks, MoreThreadsThanDecksAndOneThreadGiveTheSameReports) {
     many.insert(many.end(), few.begin(), few.end());
     std::vector<std::string> one = {"check", "--json", "--jobs=1"};
     one.insert(one.end(), few.begin(), few.end());
-    Outcome const wide = runFedeck(many);
-    Outcome const narrow = runFedeck(one);
+    FedeckOutcome const wide = RunFedeckInProcess(many);
+    FedeckOutcome const narrow = RunFedeckInProcess(one);
     EXPECT_EQ(wide.status, narrow.status);
     // The summaries differ in their time only.
-    std::vector<std::string> wideLines = linesOf(wide.out), narrowLines = linesOf(narrow.out);
+    std::vector<std::string> wideLines = LinesOf(wide.out), narrowLines = LinesOf(narrow.out);
     ASSERT_EQ(wideLines.size(), 4u);
     ASSERT_EQ(narrowLines.size(), 4u);
     for (size_t i = 0; i < 3; ++i) EXPECT_EQ(wideLines[i], narrowLines[i]);
@@ -180,11 +146,12 @@ TEST_F(ManyDecks, AnUnreadableDeckIsReportedInItsPlaceAndTheOthersAreChecked) {
     fs::create_directory(std::string(m_directory.Path("folder.inp").View()));
     std::string const missing = std::string(m_directory.Path("missing.inp").View());
     std::string const folder = std::string(m_directory.Path("folder.inp").View());
-    Outcome const single = runFedeck({"check", m_decks[4]});
-    Outcome const text = runFedeck({"check", m_decks[4], missing, folder, m_decks[4]});
+    FedeckOutcome const single = RunFedeckInProcess({"check", m_decks[4]});
+    FedeckOutcome const text =
+        RunFedeckInProcess({"check", m_decks[4], missing, folder, m_decks[4]});
     EXPECT_EQ(text.status, fedeck_EXIT_USAGE);
-    std::vector<std::string> const lines = linesOf(text.out);
-    ASSERT_EQ(lines.size(), linesOf(single.out).size() + 3);
+    std::vector<std::string> const lines = LinesOf(text.out);
+    ASSERT_EQ(lines.size(), LinesOf(single.out).size() + 3);
     EXPECT_TRUE(text.out.starts_with(single.out));
     EXPECT_EQ(lines[lines.size() - 3], "fedeck: cannot read deck: " + missing);
     EXPECT_EQ(lines[lines.size() - 2], "fedeck: cannot read deck: " + folder + " is a directory");
@@ -195,13 +162,14 @@ TEST_F(ManyDecks, AnUnreadableDeckIsReportedInItsPlaceAndTheOthersAreChecked) {
 
     // The same deck under another name is still the same deck.
     fs::path const relative = fs::relative(m_decks[4]);
-    Outcome const twice = runFedeck({"check", "--json", m_decks[4], relative.string()});
-    EXPECT_EQ(linesOf(twice.out).size(), 1u);
+    FedeckOutcome const twice =
+        RunFedeckInProcess({"check", "--json", m_decks[4], relative.string()});
+    EXPECT_EQ(LinesOf(twice.out).size(), 1u);
     EXPECT_NE(twice.err.find("is given more than once"), std::string::npos);
 
-    Outcome const json = runFedeck({"check", "--json", missing, m_decks[0]});
+    FedeckOutcome const json = RunFedeckInProcess({"check", "--json", missing, m_decks[0]});
     EXPECT_EQ(json.status, fedeck_EXIT_USAGE);
-    Json const unreadable = JsonReader(linesOf(json.out)[0]).Read();
+    Json const unreadable = JsonReader(LinesOf(json.out)[0]).Read();
     EXPECT_EQ(unreadable["deck"].text, missing);
     EXPECT_EQ(unreadable["error"].text, "cannot read deck: " + missing);
 }
@@ -220,20 +188,21 @@ TEST(DeckBatchArguments, JobsAndFormatsAreReadOrRefusedClearly) {
     EXPECT_EQ(parse({"check", "--format=github", "a"}).format, fedeck_Format::Github);
     EXPECT_EQ(parse({"check", "--json", "a"}).format, fedeck_Format::Json);
 
-    Outcome const zero = runFedeck({"check", "-j", "0", "a.inp"});
+    FedeckOutcome const zero = RunFedeckInProcess({"check", "-j", "0", "a.inp"});
     EXPECT_EQ(zero.status, fedeck_EXIT_USAGE);
     EXPECT_TRUE(zero.err.starts_with(
         "fedeck: option '-j' needs a number of decks checked at once (1 or more), not '0'"))
         << zero.err;
-    EXPECT_EQ(runFedeck({"check", "-j", "two", "a.inp"}).status, fedeck_EXIT_USAGE);
-    Outcome const format = runFedeck({"check", "--format", "xml", "a.inp"});
+    EXPECT_EQ(RunFedeckInProcess({"check", "-j", "two", "a.inp"}).status, fedeck_EXIT_USAGE);
+    FedeckOutcome const format = RunFedeckInProcess({"check", "--format", "xml", "a.inp"});
     EXPECT_TRUE(format.err.starts_with(
         "fedeck: option '--format' takes text, json, sarif or github, not 'xml'"));
-    Outcome const restart = runFedeck({"check", "--restart-from", "e.inp", "a.inp", "b.inp"});
+    FedeckOutcome const restart =
+        RunFedeckInProcess({"check", "--restart-from", "e.inp", "a.inp", "b.inp"});
     EXPECT_TRUE(
         restart.err.starts_with("fedeck: a continuation job ('--restart-from') takes one DECK"));
-    EXPECT_EQ(runFedeck({"tree", "a.inp", "b.inp"}).status, fedeck_EXIT_USAGE);
-    EXPECT_EQ(runFedeck({"tree", "-j", "2", "a.inp"}).status, fedeck_EXIT_USAGE);
+    EXPECT_EQ(RunFedeckInProcess({"tree", "a.inp", "b.inp"}).status, fedeck_EXIT_USAGE);
+    EXPECT_EQ(RunFedeckInProcess({"tree", "-j", "2", "a.inp"}).status, fedeck_EXIT_USAGE);
 }
 
 }  // namespace

@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "pipeline/inp_Module.h"
-#include "support/aio_Stream.h"
+#include "tests/common/InProcessFedeck.h"
 #include "tests/common/JsonReader.h"
 #include "tests/common/TempDeckDirectory.h"
 #include "tools/fedeck_Commands.h"
@@ -18,39 +17,7 @@
 
 namespace {
 
-class DeckModuleEnvironment : public testing::Environment {
-  public:
-    void SetUp() override { ZELI2sInpMod_initialize(m_count); }
-    void TearDown() override { ZELI2sInpMod_finalize(m_count); }
-
-  private:
-    int m_count = 0;
-};
 testing::Environment* const g_module = testing::AddGlobalTestEnvironment(new DeckModuleEnvironment);
-
-struct Outcome {
-    int status;
-    std::string out;
-};
-
-Outcome runFedeck(std::vector<std::string> const& arguments) {
-    std::vector<char const*> argv{"fedeck"};
-    for (std::string const& argument : arguments) argv.push_back(argument.c_str());
-    aio_ostringstream out;
-    aio_ostringstream err;
-    int const status = fedeck_Main(static_cast<int>(argv.size()), argv.data(), out, err);
-    return {status, std::string(out.Str().View())};
-}
-
-std::vector<std::string> linesOf(std::string const& text) {
-    std::vector<std::string> lines;
-    for (size_t start = 0; start < text.size();) {
-        size_t const end = text.find('\n', start);
-        lines.push_back(text.substr(start, end - start));
-        start = end == std::string::npos ? text.size() : end + 1;
-    }
-    return lines;
-}
 
 // Where a diagnostic points and what it says, as each format gives it.
 struct Place {
@@ -95,7 +62,7 @@ std::string percentDecoded(std::string const& text) {
 // ::error file=F,line=L::TEXT
 std::vector<Place> placesOfAnnotations(std::string const& out) {
     std::vector<Place> places;
-    for (std::string const& line : linesOf(out)) {
+    for (std::string const& line : LinesOf(out)) {
         size_t const command = line.find(' ');
         size_t const text = line.find("::", 2);
         EXPECT_TRUE(line.starts_with("::") && command != std::string::npos &&
@@ -200,7 +167,7 @@ TEST_F(FormatDecks, SarifAndAnnotationsPointWhereTheTextReportPoints) {
     int stagesWithErrors = 0;
     int includeFileLines = 0;
     for (std::string const& deck : m_decks) {
-        Outcome const json = runFedeck({"check", "--json", deck});
+        FedeckOutcome const json = RunFedeckInProcess({"check", "--json", deck});
         std::vector<Place> const places = placesOfJson(JsonReader(json.out).Read());
         EXPECT_FALSE(places.empty()) << deck;
         stagesWithErrors += json.status == fedeck_EXIT_ERRORS;
@@ -209,10 +176,10 @@ TEST_F(FormatDecks, SarifAndAnnotationsPointWhereTheTextReportPoints) {
                                 (place.file.ends_with("elements.inc") && place.line == 5);
         expected.insert(expected.end(), places.begin(), places.end());
 
-        Outcome const github = runFedeck({"check", "--format", "github", deck});
+        FedeckOutcome const github = RunFedeckInProcess({"check", "--format", "github", deck});
         EXPECT_EQ(github.status, json.status);
         EXPECT_EQ(placesOfAnnotations(github.out), places) << github.out;
-        Outcome const sarif = runFedeck({"check", "--format", "sarif", deck});
+        FedeckOutcome const sarif = RunFedeckInProcess({"check", "--format", "sarif", deck});
         EXPECT_EQ(sarif.status, json.status);
         EXPECT_EQ(placesOfSarif(JsonReader(sarif.out).Read()), places) << sarif.out;
     }
@@ -222,16 +189,16 @@ TEST_F(FormatDecks, SarifAndAnnotationsPointWhereTheTextReportPoints) {
     // All decks in one log, in the order given.
     std::vector<std::string> all = {"check", "--format=sarif", "-j", "2"};
     all.insert(all.end(), m_decks.begin(), m_decks.end());
-    Outcome const sarif = runFedeck(all);
+    FedeckOutcome const sarif = RunFedeckInProcess(all);
     EXPECT_EQ(sarif.status, fedeck_EXIT_ERRORS);
-    EXPECT_EQ(linesOf(sarif.out).size(), 1u);
+    EXPECT_EQ(LinesOf(sarif.out).size(), 1u);
     EXPECT_EQ(placesOfSarif(JsonReader(sarif.out).Read()), expected);
 }
 
 TEST_F(FormatDecks, AnnotationsEscapeWhatWouldEndTheLineOrTheProperty) {
-    Outcome const github = runFedeck({"check", "--format", "github", m_decks[2]});
+    FedeckOutcome const github = RunFedeckInProcess({"check", "--format", "github", m_decks[2]});
     int namingTheDeck = 0;
-    for (std::string const& line : linesOf(github.out)) {
+    for (std::string const& line : LinesOf(github.out)) {
         std::string const properties = line.substr(0, line.find("::", 2));
         namingTheDeck += properties.ends_with("/mesh%2C 100%25.inp");
     }

@@ -20,6 +20,7 @@
 
 #include "pipeline/inp_Module.h"
 #include "support/aio_Stream.h"
+#include "tests/common/InProcessFedeck.h"
 #include "tests/common/JsonReader.h"
 #include "tests/common/TempDeckDirectory.h"
 #include "tools/fedeck_Commands.h"
@@ -34,32 +35,14 @@ std::vector<int> ints(Json const& array) {
     return values;
 }
 
-// Brings the deck module up once for the whole program.
-class DeckModuleEnvironment : public testing::Environment {
-  public:
-    void SetUp() override { ZELI2sInpMod_initialize(m_count); }
-    void TearDown() override { ZELI2sInpMod_finalize(m_count); }
-
-  private:
-    int m_count = 0;
-};
 testing::Environment* const kModule = testing::AddGlobalTestEnvironment(new DeckModuleEnvironment);
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
+struct Outcome : FedeckOutcome {
     Json Model() const { return JsonReader(out).Read(); }
 };
 
-Outcome runFedeck(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), "fedeck");
-    std::vector<char const*> argv;
-    for (std::string const& argument : arguments) argv.push_back(argument.c_str());
-    aio_ostringstream out;
-    aio_ostringstream err;
-    int const status = fedeck_Main(static_cast<int>(argv.size()), argv.data(), out, err);
-    return {status, std::string(out.Str().View()), std::string(err.Str().View())};
+Outcome runFedeck(std::vector<std::string> const& arguments) {
+    return {RunFedeckInProcess(arguments)};
 }
 
 // One part, a brick, placed twice: FIXED where the part stands, MOVED
