@@ -2,6 +2,7 @@
 // exit status and the exact text it writes.
 
 #include <fcntl.h>
+#include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -62,7 +63,38 @@ class FedeckProgram : public testing::Test {
         return {WEXITSTATUS(status), readFile(m_dir / ".out"), readFile(m_dir / ".err")};
     }
 
+    // Runs the program with its standard error on a terminal of its own and
+    // its standard output in a file; what the terminal showed.
+    std::string runOnTerminal(std::vector<std::string> arguments) const {
+        arguments.insert(arguments.begin(), FEDECK_CLI_PATH);
+        int terminal = -1;
+        pid_t const child = forkpty(&terminal, nullptr, nullptr, nullptr);
+        if (child == 0) {
+            if (chdir(m_dir.c_str()) != 0) _exit(127);
+            dup2(open(".out", O_WRONLY | O_CREAT | O_TRUNC, 0644), STDOUT_FILENO);
+            execArguments(arguments);
+        }
+        std::string shown;
+        char buffer[256];
+        for (ssize_t got; (got = read(terminal, buffer, sizeof buffer)) > 0;)
+            shown.append(buffer, static_cast<size_t>(got));
+        close(terminal);
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status));
+        return shown;
+    }
+
   private:
+    [[noreturn]] static void execArguments(std::vector<std::string> const& arguments) {
+        std::vector<char*> argv;
+        for (std::string const& argument : arguments)
+            argv.push_back(const_cast<char*>(argument.c_str()));
+        argv.push_back(nullptr);
+        execv(argv[0], argv.data());
+        _exit(127);
+    }
+
     [[noreturn]] void runChild(std::vector<std::string> const& arguments) const {
         std::vector<char*> argv;
         for (std::string const& argument : arguments)
@@ -92,6 +124,21 @@ std::string parsedKeywords(fs::path const& deck) {
 }
 
 }  // namespace
+
+// Several decks checked for a terminal: a progress line that each deck
+// overwrites, cleared at the end; never on standard output, never when
+// standard error is no terminal.
+TEST_F(FedeckProgram, ManyDecksShowProgressOnlyOnATerminal) {
+    write("a.inp", kCleanDeck);
+    write("b.inp", kCleanDeck);
+    std::string const shown = runOnTerminal({"check", "a.inp", "b.inp"});
+    EXPECT_NE(shown.find("\rfedeck: checked 1 of 2 decks"), std::string::npos) << shown;
+    EXPECT_NE(shown.find("\rfedeck: checked 2 of 2 decks\r\x1b[K"), std::string::npos) << shown;
+    std::string const report = readFile(path(".out"));
+    EXPECT_EQ(report.find("checked"), std::string::npos) << report;
+    EXPECT_NE(report.find("fedeck: 2 decks, 0 with errors"), std::string::npos) << report;
+    EXPECT_EQ(run({"check", "a.inp", "b.inp"}).err, "");
+}
 
 TEST_F(FedeckProgram, HelpGoesToStandardOutputAndSucceeds) {
     for (char const* help : {"--help", "help"}) {
