@@ -13,6 +13,7 @@
 #include <string>
 #include <system_error>
 #include <thread>
+#include <unordered_map>
 #include <vector>
 
 #include "support/ZELBasException.h"
@@ -130,20 +131,18 @@ std::string identityOf(std::string const& deck) {
 // The decks in the order given, each once; a repeated one gets a note.
 std::vector<std::string> distinctDecks(std::vector<std::string> const& operands, aio_ostream& err) {
     std::vector<std::string> decks;
-    std::vector<std::string> identities;
+    std::unordered_map<std::string, size_t> seen;  // identity to position in `decks`
     for (std::string const& deck : operands) {
-        std::string identity = identityOf(deck);
-        auto const seen = std::find(identities.begin(), identities.end(), identity);
-        if (seen != identities.end()) {
-            err.print("fedeck: ")
-                .print(deck)
-                .print(" is given more than once (first as ")
-                .print(decks[static_cast<size_t>(seen - identities.begin())])
-                .print("); it is checked once\n");
+        auto const [first, isNew] = seen.try_emplace(identityOf(deck), decks.size());
+        if (isNew) {
+            decks.push_back(deck);
             continue;
         }
-        identities.push_back(std::move(identity));
-        decks.push_back(deck);
+        err.print("fedeck: ")
+            .print(deck)
+            .print(" is given more than once (first as ")
+            .print(decks[first->second])
+            .print("); it is checked once\n");
     }
     return decks;
 }
