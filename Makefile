@@ -4,12 +4,12 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan test-tsan bench bench-pipeline bench-many fuzz format format-check tidy install clean
+.PHONY: all build run test test-asan test-tsan bench bench-pipeline bench-many bench-convert fuzz format format-check tidy install clean
 
 all: build
 
 $(BUILD)/CMakeCache.txt:
-	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFEDECK_BUILD_BENCH=OFF
 
 build: $(BUILD)/CMakeCache.txt
 	cmake --build $(BUILD) -j $(JOBS)
@@ -79,6 +79,15 @@ bench-many: $(BUILD_REL)/CMakeCache.txt
 	test -f $(DECKS)/many/deck-199.inp || { $(BUILD_REL)/generate_deck 22 22 22 $(DECKS)/many/deck-0.inp && \
 	  for i in $$(seq 1 199); do cp $(DECKS)/many/deck-0.inp $(DECKS)/many/deck-$$i.inp; done; }
 	$(BUILD_REL)/many_decks --fedeck $(BUILD_REL)/fedeck $(DECKS)/many/deck-*.inp
+
+# fedeck convert of the 100 x 100 x 100 flat deck beside fedeck check of it,
+# medians of 5 runs.
+bench-convert: $(BUILD_REL)/CMakeCache.txt
+	cmake --build $(BUILD_REL) -j $(JOBS) --target convert_timing fedeck_cli generate_deck
+	mkdir -p $(DECKS)
+	test -f $(DECKS)/flat-100.inp || $(BUILD_REL)/generate_deck 100 100 100 $(DECKS)/flat-100.inp
+	$(BUILD_REL)/convert_timing --fedeck $(BUILD_REL)/fedeck --out $(DECKS)/flat-100.vtu \
+	  $(DECKS)/flat-100.inp
 
 # The parser under libFuzzer for a minute, starting from a copy of the seed
 # corpus so the checked-in seeds stay as they are. A crash, a leak or an

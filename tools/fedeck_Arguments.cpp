@@ -18,6 +18,7 @@ constexpr CommandForm kCommands[] = {
     {"check", fedeck_Command::Check, 1, true, "at least one DECK"},
     {"tree", fedeck_Command::Tree, 1, false, "DECK"},
     {"model", fedeck_Command::Model, 1, false, "DECK"},
+    {"convert", fedeck_Command::Convert, 2, false, "DECK and OUT"},
     {"encrypt", fedeck_Command::Encrypt, 2, false, "IN and OUT"},
 };
 
@@ -73,6 +74,9 @@ bool takesOption(fedeck_Command command, std::string_view option) {
                    option == "--max-diagnostics" || option == "--global";
         case fedeck_Command::Model:
             return option == "--include-dir" || option == "--until" || option == "--restart-from";
+        case fedeck_Command::Convert:
+            return option == "--include-dir" || option == "--max-diagnostics" ||
+                   option == "--ascii";
         case fedeck_Command::Encrypt:
             return option == "--password";
         case fedeck_Command::Help:
@@ -85,7 +89,8 @@ bool takesOption(fedeck_Command command, std::string_view option) {
 bool isKnownOption(std::string_view option) {
     return option == "--include-dir" || option == "--until" || option == "--json" ||
            option == "--format" || option == "--jobs" || option == "--password" ||
-           option == "--max-diagnostics" || option == "--restart-from" || option == "--global";
+           option == "--max-diagnostics" || option == "--restart-from" || option == "--global" ||
+           option == "--ascii";
 }
 
 // -j is the short form of --jobs.
@@ -126,13 +131,15 @@ class ArgumentReader {
         if (!takesOption(m_form.command, name))
             throw fedeck_UsageError("option '" + std::string(name) + "' does not apply to '" +
                                     std::string(m_form.name) + "'");
-        if (name == "--json" || name == "--global") {
+        if (name == "--json" || name == "--global" || name == "--ascii") {
             if (equals != std::string_view::npos)
                 throw fedeck_UsageError("option '" + std::string(name) + "' takes no value");
             if (name == "--json")
                 m_result.format = fedeck_Format::Json;
-            else
+            else if (name == "--global")
                 m_result.global = true;
+            else
+                m_result.ascii = true;
             return;
         }
         std::string const value = joinedJobs ? std::string(argument.substr(2))
@@ -214,6 +221,9 @@ class ArgumentReader {
         if (!m_result.restartFrom.empty() && !m_result.until.empty())
             throw fedeck_UsageError(
                 "'--until' does not apply to a continuation job ('--restart-from')");
+        if (m_form.command == fedeck_Command::Convert && !m_result.operands[1].ends_with(".vtu"))
+            throw fedeck_UsageError("'convert' writes a .vtu file, not '" + m_result.operands[1] +
+                                    "'");
         if (m_form.command == fedeck_Command::Encrypt && m_result.password.empty())
             throw fedeck_UsageError("'encrypt' needs a non-empty --password");
     }

@@ -11,7 +11,7 @@ class fedeck_UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-enum class fedeck_Command { Help, Version, Check, Tree, Model, Encrypt };
+enum class fedeck_Command { Help, Version, Check, Tree, Model, Convert, Encrypt };
 
 // How check writes its reports: for people (text), for scripts (one JSON
 // object per deck), for code-scanning services (one SARIF 2.1.0 log), or as
@@ -28,6 +28,8 @@ struct fedeck_Arguments {
     int jobs = 0;
     // tree: the keyword data of moved instances in the global frame.
     bool global = false;
+    // convert: the data of the file as text rather than base64.
+    bool ascii = false;
     // check and tree: the diagnostics printed as text, at the most; -1 for
     // all of them. The JSON form always has all.
     int maxDiagnostics = -1;
@@ -35,7 +37,8 @@ struct fedeck_Arguments {
     // new job.
     std::string restartFrom;
     std::string password;
-    // DECK for tree and model, DECK... for check; IN and OUT for encrypt.
+    // DECK for tree and model, DECK... for check; DECK and OUT for convert;
+    // IN and OUT for encrypt.
     std::vector<std::string> operands;
 };
 

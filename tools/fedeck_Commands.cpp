@@ -12,6 +12,7 @@
 #include "support/wip_WIP.h"
 #include "tools/fedeck_Arguments.h"
 #include "tools/fedeck_CheckedDeck.h"
+#include "tools/fedeck_Convert.h"
 #include "tools/fedeck_DeckBatch.h"
 #include "tools/fedeck_Encrypt.h"
 #include "tools/fedeck_Global.h"
@@ -143,6 +144,8 @@ int runCommand(fedeck_Arguments const& arguments, aio_ostream& out, aio_ostream&
             return runTree(arguments, out, err);
         case fedeck_Command::Model:
             return runModel(arguments, out);
+        case fedeck_Command::Convert:
+            return fedeck_Convert(arguments, err, g_modelsLeftToProcessExit);
         case fedeck_Command::Encrypt:
             return fedeck_Encrypt(arguments.operands[0], arguments.operands[1], arguments.password,
                                   err);
@@ -180,6 +183,7 @@ std::string fedeck_UsageText() {
            "  fedeck tree  [--include-dir DIR] [--until STAGE | --global] [--max-diagnostics N]\n"
            "               DECK\n"
            "  fedeck model [--include-dir DIR] [--until STAGE | --restart-from EARLIER] DECK\n"
+           "  fedeck convert [--include-dir DIR] [--ascii] [--max-diagnostics N] DECK OUT.vtu\n"
            "  fedeck encrypt --password P IN OUT\n"
            "  fedeck help | --help\n"
            "  fedeck version | --version\n"
@@ -214,6 +218,15 @@ std::string fedeck_UsageText() {
            "           \"fakePartModel\", \"parts\" and \"assembly\", the model maps as\n"
            "           far as the stages built them (see README.md). Exit status as\n"
            "           for check.\n"
+           "  convert  Runs the whole road on DECK and writes the assembled model to\n"
+           "           OUT.vtu, a VTK unstructured grid: the nodes of the assembly and of\n"
+           "           every instance placed by its transform, each element with a VTK\n"
+           "           cell (the others are named in one warning), point arrays\n"
+           "           node_label and instance, cell arrays element_label, instance and\n"
+           "           element_type, and a 0/1 array per set (nset:NAME, elset:NAME; an\n"
+           "           instance's as nset:INSTANCE.NAME). Diagnostics go to standard\n"
+           "           error; the model is written as far as it was built. Exit status\n"
+           "           as for check, or 2 when OUT cannot be written.\n"
            "  encrypt  Writes IN enciphered to OUT, an include file that a deck reads\n"
            "           with *INCLUDE, INPUT=OUT, PASSWORD=P.\n"
            "\n"
@@ -256,12 +269,14 @@ std::string fedeck_UsageText() {
            "                     frame (points moved, directions and tensors turned, an\n"
            "                     *ORIENTATION or *TRANSFORM added where a keyword leans on\n"
            "                     the global axes, with the node sets they need)\n"
+           "  --ascii            convert: the data as text instead of base64\n"
            "  --password P       password of the encrypted file (not empty)\n"
            "\n"
            "Exit status:\n"
            "  0  no errors (warnings allowed)\n"
            "  1  the deck has errors; encrypt: the encrypted file could not be written\n"
-           "  2  usage error, or the deck (encrypt: IN) cannot be read\n"
+           "  2  usage error, or the deck (encrypt: IN) cannot be read; convert: OUT\n"
+           "     cannot be written\n"
            "  3  internal error of the program\n";
 }
 

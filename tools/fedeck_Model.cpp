@@ -54,15 +54,6 @@ std::vector<cow_String> partNames(inp_InputFile const& deck) {
     return names.Sorted();
 }
 
-std::vector<cow_String> instanceNames(inp_InputFile const& deck) {
-    NameUnion names;
-    names.Add(deck.InstancePartNames().Instances());
-    names.Add(deck.TransformationMap().Instances());
-    names.Add(deck.AssemblyCoordMap().Instances());
-    names.Add(deck.AssemblyElementMap().Instances());
-    return names.Sorted();
-}
-
 // The nested holders are looked up with Find, never with ConstGetMap: that
 // one reports an unknown name as an error of the deck.
 ElementHolder const* nestedElements(ElementHolder const& holder, cow_String const& name) {
@@ -209,7 +200,7 @@ class ModelWriter {
         writeElements(&m_deck.AssemblyElementMap());
         m_out.print(", \"instances\": {");
         Separator instances(m_out);
-        for (cow_String const& instance : instanceNames(m_deck)) {
+        for (cow_String const& instance : fedeck_InstanceNames(m_deck)) {
             key(instances, instance);
             writeInstance(instance);
         }
@@ -435,10 +426,19 @@ class ModelWriter {
 
 }  // namespace
 
+std::vector<cow_String> fedeck_InstanceNames(inp_InputFile const& deck) {
+    NameUnion names;
+    names.Add(deck.InstancePartNames().Instances());
+    names.Add(deck.TransformationMap().Instances());
+    names.Add(deck.AssemblyCoordMap().Instances());
+    names.Add(deck.AssemblyElementMap().Instances());
+    return names.Sorted();
+}
+
 fedeck_ModelCounts fedeck_CountModel(inp_InputFile const& deck) {
     fedeck_ModelCounts counts;
     counts.parts = static_cast<int>(partNames(deck).size());
-    counts.instances = static_cast<int>(instanceNames(deck).size());
+    counts.instances = static_cast<int>(fedeck_InstanceNames(deck).size());
     counts.nodes = deck.AssemblyCoordMap().Count();
     counts.elements = elementCount(deck.AssemblyElementMap());
     counts.nodeSets =
