@@ -37,7 +37,8 @@ set(FEDECK_PUBLIC_HEADER_ROOTS
   support/inpM_SetMap.h
   support/inpM_SurfaceMap.h
   support/wip_WIP.h
-  binding/inp_CAPI.h)
+  binding/inp_CAPI.h
+  binding/inp_CAPI_Model.h)
 
 # Sets `out_var` to `roots` and every header of the tree they include,
 # directly or not, as paths relative to `source_dir`. Only includes of the

@@ -8,9 +8,9 @@
 #include "mesh/inp_MapInt2Element.h"
 #include "mesh/inp_VtkCells.h"
 #include "pipeline/inp_InputFile.h"
+#include "pipeline/inp_ModelNames.h"
 #include "support/inpM_InstanceMap.h"
 #include "support/inpM_SetMap.h"
-#include "tools/fedeck_Model.h"
 
 namespace {
 
@@ -64,7 +64,7 @@ class MeshAssembler {
         : m_deck(deck), m_mesh(mesh) {}
 
     void Assemble() {
-        std::vector<cow_String> const instances = fedeck_InstanceNames(m_deck);
+        std::vector<cow_String> const instances = inp_InstanceNames(m_deck);
         m_levels.resize(instances.size() + 1);
         m_levels[0].instance = -1;
         for (std::size_t i = 0; i < instances.size(); ++i) {

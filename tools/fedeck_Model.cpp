@@ -8,6 +8,7 @@
 #include "mesh/inp_CoordMap.h"
 #include "mesh/inp_MapInt2Element.h"
 #include "pipeline/inp_InputFile.h"
+#include "pipeline/inp_ModelNames.h"
 #include "support/aio_Stream.h"
 #include "support/inpM_AssemblyInstanceSurface.h"
 #include "support/inpM_InstanceMap.h"
@@ -19,40 +20,6 @@
 namespace {
 
 using ElementHolder = inpM_InstanceMap<inp_MapInt2Element>;
-
-// Names gathered from several maps, ascending and each once. The maps of one
-// level need not agree on their names (a part without sets has no entry in
-// the set map), so every map that is keyed by them has a say.
-class NameUnion {
-  public:
-    void Add(cow_List<cow_String> const& names) {
-        for (cow_String const& name : names) m_names.push_back(name);
-    }
-    std::vector<cow_String> Sorted() {
-        auto const less = [](cow_String const& a, cow_String const& b) {
-            return a.View() < b.View();
-        };
-        auto const same = [](cow_String const& a, cow_String const& b) {
-            return a.View() == b.View();
-        };
-        std::sort(m_names.begin(), m_names.end(), less);
-        m_names.erase(std::unique(m_names.begin(), m_names.end(), same), m_names.end());
-        return m_names;
-    }
-
-  private:
-    std::vector<cow_String> m_names;
-};
-
-std::vector<cow_String> partNames(inp_InputFile const& deck) {
-    NameUnion names;
-    names.Add(deck.PartCoordMap().Instances());
-    names.Add(deck.PartElementMap().Instances());
-    names.Add(deck.PartNsets().Instances());
-    names.Add(deck.PartElsets().Instances());
-    names.Add(deck.PartSurfaces().Instances());
-    return names.Sorted();
-}
 
 // The nested holders are looked up with Find, never with ConstGetMap: that
 // one reports an unknown name as an error of the deck.
@@ -120,7 +87,7 @@ class ModelWriter {
         writeModelParameters(m_deck.ModelParameters());
         m_out.print(", \"parts\": {");
         Separator parts(m_out);
-        for (cow_String const& part : partNames(m_deck)) {
+        for (cow_String const& part : inp_PartNames(m_deck)) {
             key(parts, part);
             writePart(part);
         }
@@ -200,7 +167,7 @@ class ModelWriter {
         writeElements(&m_deck.AssemblyElementMap());
         m_out.print(", \"instances\": {");
         Separator instances(m_out);
-        for (cow_String const& instance : fedeck_InstanceNames(m_deck)) {
+        for (cow_String const& instance : inp_InstanceNames(m_deck)) {
             key(instances, instance);
             writeInstance(instance);
         }
@@ -426,19 +393,10 @@ class ModelWriter {
 
 }  // namespace
 
-std::vector<cow_String> fedeck_InstanceNames(inp_InputFile const& deck) {
-    NameUnion names;
-    names.Add(deck.InstancePartNames().Instances());
-    names.Add(deck.TransformationMap().Instances());
-    names.Add(deck.AssemblyCoordMap().Instances());
-    names.Add(deck.AssemblyElementMap().Instances());
-    return names.Sorted();
-}
-
 fedeck_ModelCounts fedeck_CountModel(inp_InputFile const& deck) {
     fedeck_ModelCounts counts;
-    counts.parts = static_cast<int>(partNames(deck).size());
-    counts.instances = static_cast<int>(fedeck_InstanceNames(deck).size());
+    counts.parts = static_cast<int>(inp_PartNames(deck).size());
+    counts.instances = static_cast<int>(inp_InstanceNames(deck).size());
     counts.nodes = deck.AssemblyCoordMap().Count();
     counts.elements = elementCount(deck.AssemblyElementMap());
     counts.nodeSets =

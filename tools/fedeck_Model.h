@@ -2,16 +2,8 @@
 // The model maps of a deck as JSON, for scripts and tests: what the input
 // file object holds after the last stage that ran, as far as it was built.
 
-#include <vector>
-
-#include "support/cow_String.h"
-
 class aio_ostream;
 class inp_InputFile;
-
-// The instances of the assembly, ascending: every name that one of the
-// maps of the instances knows.
-std::vector<cow_String> fedeck_InstanceNames(inp_InputFile const& deck);
 
 // How big the model is. Nodes and elements count the assembly's own and
 // those of every instance (an instance counts its part's mesh); sets and
