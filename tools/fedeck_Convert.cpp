@@ -47,18 +47,18 @@ class WriteProgress {
 // What the file leaves out, said once each: element types without a cell
 // by type and count, elements on nodes the model lacks, no cell at all.
 void warnOfLeftOut(fedeck_AssembledMesh const& mesh, std::string const& output, aio_ostream& err) {
-    if (!mesh.typesWithoutCell.empty()) {
+    if (!mesh.TypesWithoutCell().empty()) {
         err.print("fedeck: warning: elements without a VTK cell are left out:");
         char const* separator = " ";
-        for (auto const& [type, count] : mesh.typesWithoutCell) {
+        for (auto const& [type, count] : mesh.TypesWithoutCell()) {
             err.print(separator).print(type).print(" (") << count << ")";
             separator = ", ";
         }
         err.put('\n');
     }
-    if (mesh.elementsWithMissingNodes > 0)
+    if (mesh.ElementsWithMissingNodes() > 0)
         err.print("fedeck: warning: ")
-            << mesh.elementsWithMissingNodes
+            << mesh.ElementsWithMissingNodes()
             << " elements on nodes that the model does not have are left out\n";
     if (mesh.CellCount() > 0) return;
     if (mesh.PointCount() == 0) {
@@ -67,7 +67,7 @@ void warnOfLeftOut(fedeck_AssembledMesh const& mesh, std::string const& output, 
             .print(" holds no mesh\n");
         return;
     }
-    err.print(mesh.typesWithoutCell.empty() && mesh.elementsWithMissingNodes == 0
+    err.print(mesh.TypesWithoutCell().empty() && mesh.ElementsWithMissingNodes() == 0
                   ? "fedeck: warning: the model has no elements; "
                   : "fedeck: warning: no element of the model has a VTK cell; ")
         .print(output)
@@ -99,7 +99,7 @@ int fedeck_Convert(fedeck_Arguments const& arguments, aio_ostream& err,
     report.WriteDiagnostics(err, arguments.maxDiagnostics);
     int status = report.HasErrors() ? fedeck_EXIT_ERRORS : fedeck_EXIT_CLEAN;
     {
-        fedeck_AssembledMesh const mesh = fedeck_AssembleMesh(checked.Deck());
+        fedeck_AssembledMesh const mesh(checked.Deck());
         warnOfLeftOut(mesh, output, err);
         fedeck_VtuOptions options;
         options.ascii = arguments.ascii;

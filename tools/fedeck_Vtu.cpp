@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -39,8 +38,8 @@ class VtuWriter {
   public:
     VtuWriter(std::FILE* file, fedeck_AssembledMesh const& mesh, fedeck_VtuOptions const& options)
         : m_file(file), m_mesh(mesh), m_options(options), m_base64(file) {
-        m_totalBytes = mesh.coordinates.size() * 8 + mesh.connectivity.size() * 4 +
-                       mesh.CellCount() * 17 + mesh.PointCount() * 8 + 1;
+        m_totalBytes =
+            mesh.PointCount() * 32 + mesh.ConnectivitySize() * 4 + mesh.CellCount() * 17 + 1;
     }
 
     void Write() {
@@ -51,24 +50,30 @@ class VtuWriter {
         writeFieldData();
         text("<Piece NumberOfPoints=\"").number(m_mesh.PointCount());
         text("\" NumberOfCells=\"").number(m_mesh.CellCount()).text("\">\n<Points>\n");
-        array<double>(nullptr, 3, m_mesh.coordinates);
+        pointArray<double>(nullptr, 3, [](Point const& p, auto put) {
+            put(p.x);
+            put(p.y);
+            put(p.z);
+        });
         text("</Points>\n<Cells>\n");
-        array<std::int32_t>("connectivity", 1, m_mesh.connectivity);
-        array<std::int32_t>("offsets", 1, m_mesh.offsets);
-        array<std::uint8_t>("types", 1, m_mesh.cellTypes);
+        writeCells();
         text("</Cells>\n<PointData>\n");
-        array<std::int32_t>("node_label", 1, m_mesh.nodeLabels);
-        array<std::int32_t>("instance", 1, m_mesh.pointInstances);
-        writeSets(m_mesh.nodeSets, "nset:", m_mesh.PointCount());
+        pointArray<std::int32_t>("node_label", 1, [](Point const& p, auto put) { put(p.label); });
+        pointArray<std::int32_t>("instance", 1, [](Point const& p, auto put) { put(p.instance); });
+        writeSets(m_mesh.NodeSets(), "nset:", m_mesh.PointCount());
         text("</PointData>\n<CellData>\n");
-        array<std::int32_t>("element_label", 1, m_mesh.elementLabels);
-        array<std::int32_t>("instance", 1, m_mesh.cellInstances);
-        array<std::int32_t>("element_type", 1, m_mesh.cellElementTypes);
-        writeSets(m_mesh.elementSets, "elset:", m_mesh.CellCount());
+        cellArray<std::int32_t>("element_label", 1, [](Cell const& c, auto put) { put(c.label); });
+        cellArray<std::int32_t>("instance", 1, [](Cell const& c, auto put) { put(c.instance); });
+        cellArray<std::int32_t>("element_type", 1,
+                                [](Cell const& c, auto put) { put(c.elementType); });
+        writeSets(m_mesh.ElementSets(), "elset:", m_mesh.CellCount());
         text("</CellData>\n</Piece>\n</UnstructuredGrid>\n</VTKFile>\n");
     }
 
   private:
+    using Point = fedeck_AssembledMesh::Point;
+    using Cell = fedeck_AssembledMesh::Cell;
+
     VtuWriter& text(std::string_view part) {
         std::fwrite(part.data(), 1, part.size(), m_file);
         return *this;
@@ -104,14 +109,30 @@ class VtuWriter {
         return *this;
     }
 
+    void writeCells() {
+        std::size_t const cells = m_mesh.CellCount();
+        array<std::int32_t>("connectivity", 1, m_mesh.ConnectivitySize(), [&](auto put) {
+            m_mesh.ForEachCell(
+                [&](Cell const& cell) {
+                    for (int i = 0; i < cell.pointCount; ++i) put(cell.points[i]);
+                },
+                true);
+        });
+        array<std::int32_t>("offsets", 1, cells, [&](auto put) {
+            std::int32_t end = 0;
+            m_mesh.ForEachCell([&](Cell const& cell) { put(end += cell.pointCount); }, false);
+        });
+        cellArray<std::uint8_t>("types", 1, [](Cell const& c, auto put) { put(c.vtkType); });
+    }
+
     // The lists of names the index arrays point into, one name per line.
     void writeFieldData() {
-        std::vector<std::uint8_t> instances = joined(m_mesh.instanceNames);
-        std::vector<std::uint8_t> types = joined(m_mesh.elementTypeNames);
+        std::vector<std::uint8_t> const instances = joined(m_mesh.InstanceNames());
+        std::vector<std::uint8_t> const types = joined(m_mesh.ElementTypeNames());
         if (instances.empty() && types.empty()) return;
         text("<FieldData>\n");
-        if (!instances.empty()) array<std::uint8_t>("instance_names", 1, instances, true);
-        if (!types.empty()) array<std::uint8_t>("element_type_names", 1, types, true);
+        if (!instances.empty()) vectorArray("instance_names", instances, true);
+        if (!types.empty()) vectorArray("element_type_names", types, true);
         text("</FieldData>\n");
     }
 
@@ -132,53 +153,91 @@ class VtuWriter {
             for (std::int32_t const member : set.members) flags[std::size_t(member)] = 1;
             std::string name(prefix);
             name.append(set.name);
-            array<std::uint8_t>(name.c_str(), 1, flags);
+            vectorArray(name.c_str(), flags, false);
             for (std::int32_t const member : set.members) flags[std::size_t(member)] = 0;
         }
     }
 
     template <class T>
-    void array(char const* name, int components, std::span<T const> values,
+    void vectorArray(char const* name, std::vector<T> const& values, bool fieldData) {
+        array<T>(
+            name, 1, values.size(),
+            [&](auto put) {
+                for (T const value : values) put(value);
+            },
+            fieldData);
+    }
+
+    template <class T, class Values>
+    void pointArray(char const* name, int components, Values values) {
+        array<T>(name, components, m_mesh.PointCount() * std::size_t(components), [&](auto put) {
+            m_mesh.ForEachPoint([&](Point const& point) { values(point, put); });
+        });
+    }
+
+    template <class T, class Values>
+    void cellArray(char const* name, int components, Values values) {
+        array<T>(name, components, m_mesh.CellCount() * std::size_t(components), [&](auto put) {
+            m_mesh.ForEachCell([&](Cell const& cell) { values(cell, put); }, false);
+        });
+    }
+
+    // One DataArray of `count` values, which `walk` hands to the function
+    // it is given, one by one; they go out in chunks.
+    template <class T, class Walk>
+    void array(char const* name, int components, std::size_t count, Walk walk,
                bool fieldData = false) {
         text("<DataArray type=\"").text(vtkTypeName<T>()).text("\"");
         if (name != nullptr) text(" Name=\"").attribute(name).text("\"");
         if (components > 1) text(" NumberOfComponents=\"").number(components).text("\"");
-        if (fieldData) text(" NumberOfTuples=\"").number(values.size()).text("\"");
+        if (fieldData) text(" NumberOfTuples=\"").number(count).text("\"");
         text(m_options.ascii ? " format=\"ascii\">\n" : " format=\"binary\">\n");
-        if (m_options.ascii)
-            asciiValues(values, components);
-        else
-            binaryValues(values);
-        text("\n</DataArray>\n");
-        reportProgress(values.size_bytes());
-    }
-
-    template <class T>
-    void array(char const* name, int components, std::vector<T> const& values,
-               bool fieldData = false) {
-        array(name, components, std::span<T const>(values), fieldData);
-    }
-
-    // The byte count (the header), then the bytes, as one base64 stream.
-    template <class T>
-    void binaryValues(std::span<T const> values) {
-        std::uint64_t const bytes = values.size_bytes();
-        m_base64.Write(&bytes, sizeof bytes);
-        m_base64.Write(values.data(), values.size_bytes());
-        m_base64.Finish();
-    }
-
-    // A tuple per line; numbers in the shortest form that reads back the same.
-    template <class T>
-    void asciiValues(std::span<T const> values, int components) {
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            if (i > 0) text(i % std::size_t(components) == 0 ? "\n" : " ");
-            if constexpr (sizeof(T) == 1)
-                number(int(values[i]));
-            else
-                number(values[i]);
+        if (!m_options.ascii) {
+            // The byte count first, then the bytes, as one base64 stream.
+            std::uint64_t const bytes = count * sizeof(T);
+            m_base64.Write(&bytes, sizeof bytes);
         }
+        Chunk<T> chunk(*this, components);
+        walk([&chunk](T value) { chunk.Put(value); });
+        chunk.Flush();
+        if (!m_options.ascii) m_base64.Finish();
+        text("\n</DataArray>\n");
+        reportProgress(count * sizeof(T));
     }
+
+    // Values gathered into a buffer and written out when it is full: bytes
+    // through base64, or numbers as text, a tuple per line.
+    template <class T>
+    class Chunk {
+      public:
+        Chunk(VtuWriter& writer, int components) : m_writer(writer), m_components(components) {}
+        void Put(T value) {
+            m_values[m_size++] = value;
+            if (m_size == kSize) Flush();
+        }
+        void Flush() {
+            if (!m_writer.m_options.ascii) {
+                m_writer.m_base64.Write(m_values, m_size * sizeof(T));
+            } else {
+                for (std::size_t i = 0; i < m_size; ++i, ++m_written) {
+                    if (m_written > 0) m_writer.text(m_written % m_components == 0 ? "\n" : " ");
+                    if constexpr (sizeof(T) == 1)
+                        m_writer.number(int(m_values[i]));
+                    else
+                        m_writer.number(m_values[i]);
+                }
+            }
+            m_size = 0;
+        }
+
+      private:
+        static constexpr std::size_t kSize = 4096;
+        VtuWriter& m_writer;
+        std::size_t m_components;
+        T m_values[kSize];
+        std::size_t m_size = 0;
+        std::size_t m_written = 0;
+    };
 
     void reportProgress(std::size_t bytes) {
         m_writtenBytes += bytes;

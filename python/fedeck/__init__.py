@@ -4,6 +4,12 @@
     >>> deck = fedeck.parse("model.inp", include_dir="includes")
     >>> for keyword in deck.walk():
     ...     print(keyword.name, keyword.parameters, keyword.data)
+    >>> model = fedeck.read_model("model.inp")
+    >>> model.instances["PART-1-1"].nodes.coordinates.shape
+    (1030301, 3)
+
+:func:`read_model` returns the :class:`Model` the solver sees after the
+whole road: parts, placed instances and the assembly, as arrays.
 
 :func:`parse` returns a :class:`Deck` of :class:`Keyword` objects; the data
 lines of each keyword are a :class:`Data` table, numeric tables as one flat
@@ -22,8 +28,13 @@ from ._builder import DeckBuilder
 from ._data import Data
 from ._data import numpy as _numpy
 from ._deck import Deck, Keyword
+from . import _model
+from ._model import (Assembly, AssemblySet, AssemblySurface, Diagnostic, Elements, Instance,
+                     Model, Nodes, Part, Surface)
 
-__all__ = ["parse", "Deck", "Keyword", "Data", "library_path"]
+__all__ = ["parse", "read_model", "Deck", "Keyword", "Data", "Model", "Part", "Instance",
+           "Assembly", "Nodes", "Elements", "Surface", "AssemblySet", "AssemblySurface",
+           "Diagnostic", "library_path"]
 __version__ = "0.1.0"
 
 # The entry keeps its callbacks in process-wide variables: one call at a time.
@@ -88,3 +99,31 @@ def parse(path, include_dir=None, organize=True, bulk=True, *, use_numpy=None, v
         library.inp_CAPI_Parse(file_name, directory_name, bool(organize), int(verbose),
                                bool(bulk), False, *builder.callbacks)
     return builder.finish()
+
+
+def read_model(path, include_dir=None, *, use_numpy=None) -> Model:
+    """Reads the deck at ``path``, runs the whole road of a new job and
+    returns its :class:`Model`: ``parts``, ``instances`` (placed by their
+    transforms), the ``assembly``'s own nodes, elements, sets and surfaces,
+    and the ``diagnostics`` of the road.
+
+    ``include_dir``: where include files that aren't found as written are
+    looked for; None (the default) is the deck's own directory.
+    ``use_numpy``: arrays as NumPy arrays; None (the default) uses NumPy
+    when it can be imported, and flat ``array.array`` objects otherwise.
+
+    Defects of the deck don't raise: they are in ``diagnostics``,
+    ``has_errors`` says whether one is an error, and the maps hold what was
+    built. Raises FileNotFoundError, PermissionError or IsADirectoryError
+    when the deck can't be opened, OSError when the shared library can't be
+    found, ValueError when NumPy is asked for and missing.
+    """
+    if use_numpy is None:
+        use_numpy = _numpy is not None
+    elif use_numpy and _numpy is None:
+        raise ValueError("use_numpy=True, but NumPy cannot be imported")
+    path = os.fspath(path)
+    library = _loaded_library()
+    _check_readable(path)
+    include = os.fsencode(os.fspath(include_dir)) if include_dir is not None else None
+    return _model.read(library, os.fsencode(path), include, use_numpy)
