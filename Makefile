@@ -4,7 +4,7 @@ BUILD_ASAN ?= build-asan
 BUILD_REL  ?= build-release
 JOBS       ?= $(shell nproc)
 
-.PHONY: all build run test test-asan test-tsan bench bench-pipeline bench-many bench-convert fuzz format format-check tidy install clean
+.PHONY: all build run test test-asan test-tsan bench bench-pipeline bench-many bench-convert bench-read-model fuzz format format-check tidy install clean
 
 all: build
 
@@ -88,6 +88,17 @@ bench-convert: $(BUILD_REL)/CMakeCache.txt
 	test -f $(DECKS)/flat-100.inp || $(BUILD_REL)/generate_deck 100 100 100 $(DECKS)/flat-100.inp
 	$(BUILD_REL)/convert_timing --fedeck $(BUILD_REL)/fedeck --out $(DECKS)/flat-100.vtu \
 	  $(DECKS)/flat-100.inp
+
+# fedeck.read_model of the same deck from Python (NumPy arrays), beside
+# fedeck check of it, medians of 5 runs. PYTHON must have NumPy.
+PYTHON ?= /usr/bin/python3
+
+bench-read-model: $(BUILD_REL)/CMakeCache.txt
+	cmake --build $(BUILD_REL) -j $(JOBS) --target fedeck_shared fedeck_cli generate_deck
+	mkdir -p $(DECKS)
+	test -f $(DECKS)/flat-100.inp || $(BUILD_REL)/generate_deck 100 100 100 $(DECKS)/flat-100.inp
+	$(PYTHON) bench/read_model_timing.py --fedeck $(BUILD_REL)/fedeck \
+	  --library $(BUILD_REL)/libfedeck.so --python $(PYTHON) $(DECKS)/flat-100.inp
 
 # The parser under libFuzzer for a minute, starting from a copy of the seed
 # corpus so the checked-in seeds stay as they are. A crash, a leak or an

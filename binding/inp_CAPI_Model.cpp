@@ -5,6 +5,8 @@
 
 #include "binding/inp_CAPI_Model.h"
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <map>
@@ -407,6 +409,9 @@ int inp_CAPI_Model_Read(inp_CAPI_Model* model, char const* fileName, char const*
             return inp_CAPI_MODEL_UNREADABLE;
         }
         gatherNames(*model);
+        // The keywords are not handed out: what is left of them after the
+        // road (data lines the maps were read from, among them) goes now.
+        model->deck->GetKeywords() = cow_List<inp_Keyword>();
         bool const errors = sink.HasErrors();
         sendDiagnostics(sink, diagnostic, context);
         sink.Clear();
@@ -525,6 +530,42 @@ int inp_CAPI_Model_Elements(inp_CAPI_Model const* model, int level, int index, i
         std::fill(row + count, row + width, 0);
         ++at;
     }
+    return 0;
+}
+
+int inp_CAPI_Model_SameNodes(inp_CAPI_Model const* model, int level, int index, int otherLevel,
+                             int otherIndex) {
+    if (!validLevel(model, level, index) || !validLevel(model, otherLevel, otherIndex)) return -1;
+    inp_CoordMap const* nodes = nodesOf(model, level, index);
+    inp_CoordMap const* other = nodesOf(model, otherLevel, otherIndex);
+    if (nodes == nullptr || other == nullptr) return 0;
+    // Nodes handed out as stored: no transform and no renumbering between.
+    auto const asStored = [](inp_CoordMap const& map) {
+        return map.ConstGetTransformation().IsIdentity() && map.ConstGetLocalIds().IsEmpty();
+    };
+    return asStored(*nodes) && asStored(*other) && nodes->SharesNodesWith(*other) ? 1 : 0;
+}
+
+int inp_CAPI_Model_SameElements(inp_CAPI_Model const* model, int level, int index, int otherLevel,
+                                int otherIndex) {
+    if (!validLevel(model, level, index) || !validLevel(model, otherLevel, otherIndex)) return -1;
+    inp_MapInt2Element const* elements = elementsOf(model, level, index);
+    inp_MapInt2Element const* other = elementsOf(model, otherLevel, otherIndex);
+    return elements != nullptr && other != nullptr && elements->SharesTableWith(*other) ? 1 : 0;
+}
+
+int inp_CAPI_Model_ReleaseElements(inp_CAPI_Model* model) {
+    if (!isRead(model)) return -1;
+    model->deck->ReleaseElementMaps();
+    for (auto& [level, cache] : model->caches) {
+        cache.hasGroups = false;
+        cache.groups.clear();
+    }
+    // A million elements are a million small blocks: their pages go back to
+    // the system, not only to the allocator's free lists.
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
     return 0;
 }
 

@@ -115,6 +115,22 @@ int64_t inp_CAPI_Model_ElementCount(inp_CAPI_Model const* model, int level, int 
 int inp_CAPI_Model_Elements(inp_CAPI_Model const* model, int level, int index, int type,
                             int32_t* labels, int32_t* connectivity);
 
+/*
+ * Whether two levels hand out the same nodes (one table, placed alike) or
+ * the same elements (one table): 1 when they do, 0 when not, -1 for bad
+ * arguments. A caller may then keep one array for both.
+ */
+int inp_CAPI_Model_SameNodes(inp_CAPI_Model const* model, int level, int index, int otherLevel,
+                             int otherIndex);
+int inp_CAPI_Model_SameElements(inp_CAPI_Model const* model, int level, int index, int otherLevel,
+                                int otherIndex);
+/*
+ * Gives back the memory of the elements once the caller has read them (the
+ * biggest part of a model): afterwards no level has elements. Sets and
+ * surfaces stay. Returns 0, -1 for a model not read.
+ */
+int inp_CAPI_Model_ReleaseElements(inp_CAPI_Model* model);
+
 /* -- sets, by name in ascending order ------------------------------------------------------- */
 
 int inp_CAPI_Model_SetCount(inp_CAPI_Model const* model, int level, int index, int kind);

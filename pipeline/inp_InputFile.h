@@ -232,6 +232,12 @@ class inp_InputFile {
     // level, instance transforms, id maps of a renumbered model.
     inp_CoordMap const& PartCoordMap() const { return m_partCoordMap; }
     inpM_InstanceMap<inp_MapInt2Element> const& PartElementMap() const { return m_partElementMap; }
+    // For a caller that has read the elements out of the maps and wants their
+    // memory back: the part and assembly element maps are emptied.
+    void ReleaseElementMaps() {
+        m_partElementMap = inpM_InstanceMap<inp_MapInt2Element>();
+        m_assemblyElementMap = inpM_InstanceMap<inp_MapInt2Element>();
+    }
     inpM_SetMap const& PartNsets() const { return m_partNsets; }
     inpM_SetMap const& PartElsets() const { return m_partElsets; }
     inpM_SurfaceMap const& PartSurfaces() const { return m_partSurfaces; }

@@ -244,31 +244,56 @@ class ModelReader:
             _text(lib.inp_CAPI_Model_LevelName(handle, capi.INSTANCE, i))
             for i in range(lib.inp_CAPI_Model_LevelCount(handle, capi.INSTANCE))
         ]
+        levels = []
         for index in range(lib.inp_CAPI_Model_LevelCount(handle, capi.PART)):
             part = Part(_text(lib.inp_CAPI_Model_LevelName(handle, capi.PART, index)))
-            self.read_level(part, capi.PART, index)
             model.parts[part.name] = part
+            levels.append((capi.PART, index, part))
         for index, name in enumerate(self.instance_names):
             instance = Instance(name)
-            instance.part = _text(lib.inp_CAPI_Model_InstancePart(handle, index))
-            rotation = (ctypes.c_double * 9)()
-            translation = (ctypes.c_double * 3)()
-            lib.inp_CAPI_Model_InstanceTransform(handle, index, ctypes.addressof(rotation),
-                                                 ctypes.addressof(translation))
-            instance.rotation = self.arrays.square(list(rotation))
-            instance.translation = self.arrays.vector(list(translation))
-            self.read_level(instance, capi.INSTANCE, index)
+            self.read_placement(instance, index)
             model.instances[name] = instance
+            levels.append((capi.INSTANCE, index, instance))
+        levels.append((capi.ASSEMBLY, 0, model.assembly))
+        # The elements first, and their memory back to the system before the
+        # nodes are read: the peak is the model and the biggest arrays, not
+        # the model and all of them. Levels that share a table (an instance
+        # where its part stands) share their arrays too.
+        read = []
+        for kind, index, level in levels:
+            level.elements = self.shared(read, kind, index, lib.inp_CAPI_Model_SameElements,
+                                         self.elements)
+        lib.inp_CAPI_Model_ReleaseElements(handle)
+        read = []
+        for kind, index, level in levels:
+            level.nodes = self.shared(read, kind, index, lib.inp_CAPI_Model_SameNodes,
+                                      self.nodes)
+        for kind, index, level in levels[:-1]:
+            self.read_sets_and_surfaces(level, kind, index)
         assembly = model.assembly
-        assembly.nodes = self.nodes(capi.ASSEMBLY, 0)
-        assembly.elements = self.elements(capi.ASSEMBLY, 0)
         assembly.node_sets = self.assembly_sets(capi.NODE_SET)
         assembly.element_sets = self.assembly_sets(capi.ELEMENT_SET)
         assembly.surfaces = self.assembly_surfaces()
 
-    def read_level(self, level, kind, index):
-        level.nodes = self.nodes(kind, index)
-        level.elements = self.elements(kind, index)
+    def shared(self, done, kind, index, same, read):
+        """What an earlier level with the same table got, or a new read."""
+        for earlier_kind, earlier_index, value in done:
+            if same(self.handle, kind, index, earlier_kind, earlier_index) == 1:
+                return value
+        value = read(kind, index)
+        done.append((kind, index, value))
+        return value
+
+    def read_placement(self, instance, index):
+        instance.part = _text(self.lib.inp_CAPI_Model_InstancePart(self.handle, index))
+        rotation = (ctypes.c_double * 9)()
+        translation = (ctypes.c_double * 3)()
+        self.lib.inp_CAPI_Model_InstanceTransform(self.handle, index, ctypes.addressof(rotation),
+                                                  ctypes.addressof(translation))
+        instance.rotation = self.arrays.square(list(rotation))
+        instance.translation = self.arrays.vector(list(translation))
+
+    def read_sets_and_surfaces(self, level, kind, index):
         level.node_sets = self.sets(kind, index, capi.NODE_SET)
         level.element_sets = self.sets(kind, index, capi.ELEMENT_SET)
         level.surfaces = {}

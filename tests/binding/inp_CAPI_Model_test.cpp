@@ -227,6 +227,26 @@ TEST_F(ModelEntry, SetsAndSurfacesWithTheirInstances) {
     EXPECT_EQ(inp_CAPI_Model_FaceCount(model.get()), 3);  // S1, S2, S3
 }
 
+// A caller keeps one array for levels that share a table, and gives the
+// elements back once it has them.
+TEST_F(ModelEntry, SharedTablesAndElementsGivenBack) {
+    ModelHandle const model = read(kPartsDeck);
+    EXPECT_EQ(inp_CAPI_Model_SameNodes(model.get(), inp_CAPI_INSTANCE, 0, inp_CAPI_PART, 0), 1);
+    EXPECT_EQ(inp_CAPI_Model_SameNodes(model.get(), inp_CAPI_INSTANCE, 1, inp_CAPI_PART, 0), 0);
+    EXPECT_EQ(inp_CAPI_Model_SameNodes(model.get(), inp_CAPI_INSTANCE, 0, inp_CAPI_ASSEMBLY, 0), 0);
+    EXPECT_EQ(inp_CAPI_Model_SameElements(model.get(), inp_CAPI_INSTANCE, 0, inp_CAPI_INSTANCE, 1),
+              1);
+    EXPECT_EQ(inp_CAPI_Model_SameElements(model.get(), inp_CAPI_INSTANCE, 0, inp_CAPI_PART, 3), -1);
+
+    ASSERT_EQ(inp_CAPI_Model_ElementTypeCount(model.get(), inp_CAPI_INSTANCE, 0), 2);
+    EXPECT_EQ(inp_CAPI_Model_ReleaseElements(model.get()), 0);
+    EXPECT_EQ(inp_CAPI_Model_ElementTypeCount(model.get(), inp_CAPI_INSTANCE, 0), 0);
+    EXPECT_EQ(setMembers(model.get(), inp_CAPI_PART, 0, inp_CAPI_ELEMENT_SET, 1),
+              (std::vector<int32_t>{21, 22}));
+    EXPECT_EQ(inp_CAPI_Model_NodeCount(model.get(), inp_CAPI_INSTANCE, 1), 8);
+    EXPECT_EQ(inp_CAPI_Model_ReleaseElements(nullptr), -1);
+}
+
 TEST_F(ModelEntry, TheCellsOfViewers) {
     int nodes = 0;
     int order[20];
