@@ -1,9 +1,6 @@
 #include "tools/fedeck_Convert.h"
 
-#include <unistd.h>
-
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -13,36 +10,10 @@
 #include "tools/fedeck_AssembledMesh.h"
 #include "tools/fedeck_CheckedDeck.h"
 #include "tools/fedeck_Commands.h"
+#include "tools/fedeck_ProgressLine.h"
 #include "tools/fedeck_Vtu.h"
 
 namespace {
-
-// The share written, on one line of a terminal, once the job has taken more
-// than a second: a quick conversion shows nothing.
-class WriteProgress {
-  public:
-    WriteProgress(aio_ostream& err, std::string const& output)
-        : m_err(err), m_output(output), m_terminal(&err == &aio_cerr() && isatty(2)) {}
-
-    void Show(double share) {
-        if (!m_terminal || Clock::now() - m_start < std::chrono::seconds(1)) return;
-        m_shown = true;
-        m_err.print("\rfedeck: writing ").print(m_output).print(": ")
-            << static_cast<int>(share * 100.0) << "%";
-        m_err.flush();
-    }
-    void Clear() {
-        if (m_shown) m_err.print("\r\x1b[K");
-    }
-
-  private:
-    using Clock = std::chrono::steady_clock;
-    aio_ostream& m_err;
-    std::string const& m_output;
-    bool m_terminal;
-    bool m_shown = false;
-    Clock::time_point m_start = Clock::now();
-};
 
 // What the file leaves out, said once each: element types without a cell
 // by type and count, elements on nodes the model lacks, no cell at all.
@@ -93,7 +64,9 @@ int fedeck_Convert(fedeck_Arguments const& arguments, aio_ostream& err,
                    bool leaveModelToProcessExit) {
     std::string const& output = arguments.operands[1];
     if (!canCreate(output, err)) return fedeck_EXIT_USAGE;
-    WriteProgress progress(err, output);
+    // A quick conversion shows no progress; one that takes more than a
+    // second shows the share written.
+    fedeck_ProgressLine progress(err, "writing " + output, fedeck_ProgressLine::IsTerminal(err));
     fedeck_CheckedDeck checked(arguments, fedeck_LastStageToRun(std::string()));
     fedeck_Report const report = checked.Report();
     report.WriteDiagnostics(err, arguments.maxDiagnostics);

@@ -1,10 +1,11 @@
 /*
- * A C caller of libfedeck.so: the header must compile as C, the records must
- * have their published layout, and a small deck must come through the
- * callbacks with the values a C program reads from the plain fields.
- * Exits 0 when every check holds.
+ * A C caller of libfedeck.so: the headers must compile as C, the records must
+ * have their published layout, a small deck must come through the callbacks
+ * with the values a C program reads from the plain fields, and its model
+ * through the model entry. Exits 0 when every check holds.
  */
 #include "binding/inp_CAPI.h"
+#include "binding/inp_CAPI_Model.h"
 
 #include <stddef.h>
 #include <stdio.h>
@@ -84,6 +85,23 @@ static int writeDeck(char const* path) {
     return fclose(deck) == 0;
 }
 
+/* The two nodes of the deck, in the instance of its generated part. */
+static void checkModel(char const* path) {
+    inp_CAPI_Model* model = inp_CAPI_Model_New();
+    check(inp_CAPI_Model_Read(model, path, NULL, NULL, NULL) == inp_CAPI_MODEL_CLEAN,
+          "the model is read");
+    check(inp_CAPI_Model_LevelCount(model, inp_CAPI_INSTANCE) == 1, "one generated instance");
+    int64_t const count = inp_CAPI_Model_NodeCount(model, inp_CAPI_INSTANCE, 0);
+    check(count == 2, "two nodes in the instance");
+    if (count == 2) {
+        int32_t labels[2];
+        double coordinates[6];
+        inp_CAPI_Model_Nodes(model, inp_CAPI_INSTANCE, 0, labels, coordinates);
+        check(labels[1] == 2 && coordinates[3] == 2.5, "the second node");
+    }
+    inp_CAPI_Model_Free(model);
+}
+
 int main(void) {
     char directory[] = "/tmp/capi-c-XXXXXX";
     char path[64];
@@ -93,6 +111,7 @@ int main(void) {
 
     int const status = inp_CAPI_Parse(path, directory, true, 0, true, false, onStrings,
                                       onParameters, onList, onData);
+    checkModel(path);
     remove(path);
     rmdir(directory);
 
