@@ -64,6 +64,15 @@ def _check_readable(path):
         pass
 
 
+def _numpy_wanted(use_numpy):
+    """NumPy when asked for, or by default when it can be imported."""
+    if use_numpy is None:
+        return _numpy is not None
+    if use_numpy and _numpy is None:
+        raise ValueError("use_numpy=True, but NumPy cannot be imported")
+    return bool(use_numpy)
+
+
 def parse(path, include_dir=None, organize=True, bulk=True, *, use_numpy=None, verbose=0):
     """Reads the deck at ``path`` and returns its :class:`Deck`.
 
@@ -83,10 +92,7 @@ def parse(path, include_dir=None, organize=True, bulk=True, *, use_numpy=None, v
     the deck can't be opened, OSError when the shared library can't be
     found, ValueError when NumPy is asked for and missing.
     """
-    if use_numpy is None:
-        use_numpy = _numpy is not None
-    elif use_numpy and _numpy is None:
-        raise ValueError("use_numpy=True, but NumPy cannot be imported")
+    use_numpy = _numpy_wanted(use_numpy)
     path = os.fspath(path)
     file_name = os.fsencode(path)
     if include_dir is None:
@@ -118,10 +124,7 @@ def read_model(path, include_dir=None, *, use_numpy=None) -> Model:
     when the deck can't be opened, OSError when the shared library can't be
     found, ValueError when NumPy is asked for and missing.
     """
-    if use_numpy is None:
-        use_numpy = _numpy is not None
-    elif use_numpy and _numpy is None:
-        raise ValueError("use_numpy=True, but NumPy cannot be imported")
+    use_numpy = _numpy_wanted(use_numpy)
     path = os.fspath(path)
     library = _loaded_library()
     _check_readable(path)

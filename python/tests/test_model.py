@@ -21,56 +21,11 @@ except ImportError:
 FEDECK_CLI = os.environ.get("FEDECK_CLI")
 
 # One part placed twice, the second moved and turned; elements of one type
-# in two widths; sets and surfaces at every level.
-PARTS_DECK = """
-*HEADING
-*PART, NAME=BRICK
-*NODE
-1, 0., 0., 0.
-2, 1., 0., 0.
-3, 1., 2., 0.
-4, 0., 2., 0.
-5, 0., 0., 3.
-6, 1., 0., 3.
-7, 1., 2., 3.
-8, 0., 2., 3.
-*ELEMENT, TYPE=C3D8, ELSET=ALL
-11, 1, 2, 3, 4, 5, 6, 7, 8
-*ELEMENT, TYPE=B31, ELSET=BEAMS
-21, 1, 2
-22, 2, 3, 4
-*NSET, NSET=BOTTOM
-4, 3, 2, 1
-*SURFACE, NAME=TOP, TYPE=ELEMENT
-ALL, S2
-*SURFACE, NAME=CORNER, TYPE=NODE
-1, 2.5
-*SOLID SECTION, ELSET=ALL, MATERIAL=STEEL
-*BEAM SECTION, ELSET=BEAMS, MATERIAL=STEEL, SECTION=RECT
-0.1, 0.1
-*END PART
-*ASSEMBLY, NAME=A
-*INSTANCE, NAME=STILL, PART=BRICK
-*END INSTANCE
-*INSTANCE, NAME=TURNED, PART=BRICK
-10., 0., 0.
-10., 0., 0., 10., 0., 1., 90.
-*END INSTANCE
-*NODE
-100, 5., 5., 5.
-*NSET, NSET=TOPS
-STILL.5, STILL.6, TURNED.7, 100
-*SURFACE, NAME=OUTSIDE, TYPE=ELEMENT
-STILL.ALL, S1
-TURNED.ALL, S3
-*END ASSEMBLY
-*MATERIAL, NAME=STEEL
-*ELASTIC
-200000., 0.3
-*STEP
-*STATIC
-*END STEP
-"""
+# in two widths; sets and surfaces at every level. The C++ tests of the model
+# entry read the same deck.
+with open(os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, os.pardir, "tests",
+                       "binding", "placed_brick.inp"), encoding="utf-8") as _deck:
+    PARTS_DECK = _deck.read()
 
 # A flat deck of two element families, generated nodes and sets.
 FLAT_DECK = """
