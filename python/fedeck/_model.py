@@ -327,10 +327,11 @@ class ModelReader:
             groups[name] = Elements(name, width.value, labels, connectivity)
         return groups
 
-    def set_members(self, kind, index, set_kind, set_index):
+    def set_members(self, kind, index, set_kind, set_index, with_owners=False):
+        """The ids of a set and, when asked, the instance of each."""
         size = self.lib.inp_CAPI_Model_SetSize(self.handle, kind, index, set_kind, set_index)
         ids = self.arrays.ints(size)
-        owners = self.arrays.ints(size)
+        owners = self.arrays.ints(size) if with_owners else None
         if size:
             self.lib.inp_CAPI_Model_SetMembers(self.handle, kind, index, set_kind, set_index,
                                                self.arrays.address(ids),
@@ -365,7 +366,7 @@ class ModelReader:
     def assembly_sets(self, set_kind):
         sets = {}
         for i, name in enumerate(self.set_names(capi.ASSEMBLY, 0, set_kind)):
-            ids, owners = self.set_members(capi.ASSEMBLY, 0, set_kind, i)
+            ids, owners = self.set_members(capi.ASSEMBLY, 0, set_kind, i, with_owners=True)
             sets[name] = AssemblySet(*self.split_by_instance(ids, owners))
         return sets
 
