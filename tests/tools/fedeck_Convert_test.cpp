@@ -8,6 +8,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -429,6 +430,18 @@ TEST(Convert, BadInputGivesAClearMessageAndTheRightStatus) {
     EXPECT_EQ(unwritable.status, 2);
     EXPECT_NE(unwritable.err.find("cannot open"), std::string::npos) << unwritable.err;
     EXPECT_NE(unwritable.err.find("for writing: No such file or directory"), std::string::npos);
+
+    // A disk that fills up on the way: the write fails, and says so.
+    std::string const full(directory.Path("full.vtu").View());
+    std::error_code linked;
+    std::filesystem::create_symlink("/dev/full", full, linked);
+    if (!linked) {
+        FedeckOutcome const noSpace = RunFedeckInProcess({"convert", deckPath, full});
+        EXPECT_EQ(noSpace.status, 2);
+        EXPECT_NE(noSpace.err.find("cannot write " + full + ": No space left on device"),
+                  std::string::npos)
+            << noSpace.err;
+    }
 
     FedeckOutcome const notVtu = RunFedeckInProcess({"convert", deckPath, "out.vtk"});
     EXPECT_EQ(notVtu.status, 2);
