@@ -11,7 +11,8 @@
 // parser.
 //
 // The deck goes the road of a new job (a strict parse, expansion and
-// organization, run through whatever the errors), and is parsed twice more:
+// organization, run through whatever the errors), through the whole road of
+// the flat model entry with every accessor called, and is parsed twice more:
 // leniently, and strictly without data lines. Nothing is caught: for a file that exists the parser
 // must report through its lists and never throw, and the stages must take whatever the parser made.
 
@@ -31,6 +32,7 @@
 #include "support/thr_Singleton.h"
 #include "support/wip_WIP.h"
 #include "tests/common/MeshWalks.h"
+#include "tests/common/ModelEntryWalk.h"
 
 namespace {
 
@@ -64,6 +66,8 @@ class ScratchDirectory {
     void WriteDeck(std::string_view bytes) const { write(m_deck, bytes); }
     void WriteInclude(std::string_view bytes) const { write(m_include, bytes); }
     cow_String Deck() const { return cow_String(m_deck.c_str()); }
+    std::string const& DeckPath() const { return m_deck; }
+    std::string DirectoryPath() const { return m_directory.string(); }
     cow_String Directory() const { return cow_String(m_directory.c_str()); }
 
   private:
@@ -150,6 +154,9 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         files.WriteInclude(input.substr(marker + kIncludeMarker.size()));
     }
     runTheRoad(files);
+    volatile std::size_t const modelRead =
+        WalkModelEntry(files.DeckPath().c_str(), files.DirectoryPath().c_str());
+    (void)modelRead;
     parse(files, false, true);
     parse(files, true, false);
     return 0;

@@ -7,12 +7,14 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "tests/common/ModelEntryWalk.h"
 #include "tests/common/TempDeckDirectory.h"
 
 namespace {
@@ -272,6 +274,22 @@ TEST_F(ModelEntry, WrongCallsFailCleanly) {
     std::string const folder(m_directory.Directory().View());
     EXPECT_EQ(inp_CAPI_Model_Read(directory.get(), folder.c_str(), nullptr, nullptr, nullptr),
               inp_CAPI_MODEL_UNREADABLE);
+}
+
+// Every deck of the repository through the entry with every accessor
+// called: under the sanitizers, a fault of the entry on a real deck shows
+// here.
+TEST(ModelEntryOnEveryDeck, EveryAccessorTakesEveryDeckOfTheRepository) {
+    namespace fs = std::filesystem;
+    int read = 0;
+    for (char const* folder : {"examples", "tests", "fuzz/corpus"})
+        for (auto const& entry :
+             fs::recursive_directory_iterator(fs::path(FEDECK_SOURCE_DIR) / folder))
+            if (entry.is_regular_file() && entry.path().extension() == ".inp") {
+                WalkModelEntry(entry.path().c_str(), entry.path().parent_path().c_str());
+                ++read;
+            }
+    EXPECT_GE(read, 10);
 }
 
 }  // namespace
