@@ -36,16 +36,19 @@ test-asan: $(BUILD_ASAN)/CMakeCache.txt
 	ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
 	  ctest --test-dir $(BUILD_ASAN) --output-on-failure -j $(JOBS)
 
-# The many-deck check under ThreadSanitizer: decks checked on several threads
-# at once share nothing but what is meant to be shared.
+# The many-deck check and the model entry on two threads under
+# ThreadSanitizer: decks read on several threads at once share nothing but
+# what is meant to be shared.
 BUILD_TSAN ?= build-tsan
 
 $(BUILD_TSAN)/CMakeCache.txt:
 	cmake -S . -B $(BUILD_TSAN) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFEDECK_TSAN=ON -DFEDECK_BUILD_BENCH=OFF
 
 test-tsan: $(BUILD_TSAN)/CMakeCache.txt
-	cmake --build $(BUILD_TSAN) -j $(JOBS) --target test_fedeck_DeckBatch
+	cmake --build $(BUILD_TSAN) -j $(JOBS) --target test_fedeck_DeckBatch test_inp_CAPI_Model
 	TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1" $(BUILD_TSAN)/test_fedeck_DeckBatch
+	TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1" $(BUILD_TSAN)/test_inp_CAPI_Model \
+	  --gtest_filter='ModelEntryThreads.*'
 
 $(BUILD_REL)/CMakeCache.txt:
 	cmake -S . -B $(BUILD_REL) -DCMAKE_BUILD_TYPE=Release -DFEDECK_BUILD_TESTS=OFF

@@ -12,6 +12,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "tests/common/ModelEntryWalk.h"
@@ -274,6 +275,24 @@ TEST_F(ModelEntry, WrongCallsFailCleanly) {
     std::string const folder(m_directory.Directory().View());
     EXPECT_EQ(inp_CAPI_Model_Read(directory.get(), folder.c_str(), nullptr, nullptr, nullptr),
               inp_CAPI_MODEL_UNREADABLE);
+}
+
+// Models on different threads are independent: each thread reads its own
+// handles while the other does (the ThreadSanitizer build runs this too).
+TEST(ModelEntryThreads, HandlesOnTwoThreadsReadTheSameModelAtOnce) {
+    std::size_t const alone = WalkModelEntry(kPartsDeckPath.c_str(), nullptr);
+    ASSERT_GT(alone, 0u);
+    std::size_t read[2] = {0, 0};
+    auto const readTenTimes = [&read, alone](int thread) {
+        for (int round = 0; round < 10; ++round)
+            if (WalkModelEntry(kPartsDeckPath.c_str(), nullptr) == alone) ++read[thread];
+    };
+    std::thread first(readTenTimes, 0);
+    std::thread second(readTenTimes, 1);
+    first.join();
+    second.join();
+    EXPECT_EQ(read[0], 10u);
+    EXPECT_EQ(read[1], 10u);
 }
 
 // Every deck of the repository through the entry with every accessor
