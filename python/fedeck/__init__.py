@@ -22,6 +22,7 @@ through ``ctypes.util.find_library("fedeck")``.
 
 import os
 import threading
+from typing import Optional, Union
 
 from . import _capi
 from ._builder import DeckBuilder
@@ -107,7 +108,9 @@ def parse(path, include_dir=None, organize=True, bulk=True, *, use_numpy=None, v
     return builder.finish()
 
 
-def read_model(path, include_dir=None, *, use_numpy=None) -> Model:
+def read_model(path: "Union[str, os.PathLike]",
+               include_dir: "Optional[Union[str, os.PathLike]]" = None, *,
+               use_numpy: Optional[bool] = None) -> Model:
     """Reads the deck at ``path``, runs the whole road of a new job and
     returns its :class:`Model`: ``parts``, ``instances`` (placed by their
     transforms), the ``assembly``'s own nodes, elements, sets and surfaces,

@@ -176,7 +176,7 @@ class Model:
         self.has_errors = False
         self.uses_numpy = False
 
-    def to_meshio(self):
+    def to_meshio(self) -> "meshio.Mesh":  # noqa: F821 (meshio is optional)
         """The assembled model as a ``meshio.Mesh``: the assembly's nodes and
         every instance's placed nodes, the elements that have a VTK cell, and
         the assembly's and instances' sets as point and cell sets (an
