@@ -38,11 +38,6 @@ struct ElementGroup {
     int width = 0;
 };
 
-struct SetMembers {
-    std::vector<std::int32_t> ids;
-    std::vector<std::int32_t> instances;
-};
-
 struct NamedSet {
     std::string name;
     inpM_SetHandle set;
@@ -219,23 +214,18 @@ int instanceIndex(inp_CAPI_Model const* model, std::string_view name) {
                : -1;
 }
 
-// The level's own ids, then those of each instance the model knows.
-SetMembers membersOf(inp_CAPI_Model const* model, inpM_BaseSet const& set) {
-    SetMembers members;
-    for (int const id : set.ConstGetIdList()) {
-        members.ids.push_back(id);
-        members.instances.push_back(-1);
-    }
+// Hands each member to `visit` with its instance (-1 for the level's own):
+// the level's own ids, then those of each instance the model knows. Counting
+// and filling walk the set alike, with no copy of the ids in between.
+template <class Visit>
+void forEachMember(inp_CAPI_Model const* model, inpM_BaseSet const& set, Visit visit) {
+    for (int const id : set.ConstGetIdList()) visit(id, -1);
     set.ConstGetInstanceIdLists().ForEachSorted(
         [&](cow_String const& instance, cow_List<int> const& ids) {
             int const at = instanceIndex(model, instance.View());
             if (at < 0) return;
-            for (int const id : ids) {
-                members.ids.push_back(id);
-                members.instances.push_back(at);
-            }
+            for (int const id : ids) visit(id, at);
         });
-    return members;
 }
 
 // -- surfaces --------------------------------------------------------------------------------
@@ -586,17 +576,21 @@ int64_t inp_CAPI_Model_SetSize(inp_CAPI_Model const* model, int level, int index
                                int set) {
     if (!validSet(model, level, index, kind, set)) return -1;
     inpM_SetHandle const& handle = setsOf(model, level, index, kind)[std::size_t(set)].set;
-    return static_cast<int64_t>(membersOf(model, *handle).ids.size());
+    int64_t size = 0;
+    forEachMember(model, *handle, [&size](int, int) { ++size; });
+    return size;
 }
 
 int inp_CAPI_Model_SetMembers(inp_CAPI_Model const* model, int level, int index, int kind, int set,
                               int32_t* ids, int32_t* instances) {
     if (!validSet(model, level, index, kind, set) || ids == nullptr) return -1;
     inpM_SetHandle const& handle = setsOf(model, level, index, kind)[std::size_t(set)].set;
-    SetMembers const members = membersOf(model, *handle);
-    std::copy(members.ids.begin(), members.ids.end(), ids);
-    if (instances != nullptr)
-        std::copy(members.instances.begin(), members.instances.end(), instances);
+    std::size_t at = 0;
+    forEachMember(model, *handle, [&](int id, int instance) {
+        ids[at] = id;
+        if (instances != nullptr) instances[at] = instance;
+        ++at;
+    });
     return 0;
 }
 

@@ -62,30 +62,22 @@ fedeck_AssembledMesh::~fedeck_AssembledMesh() = default;
 void fedeck_AssembledMesh::indexPoints(Level& level) {
     if (level.nodes == nullptr) return;
     inp_MapInt2Coord const table = level.nodes->ConstGet();
-    inp_MapInt2CoordSIT walk(table);
-    if (walk.NotDone()) {
-        int last = walk.CurrentKey();
-        for (inp_MapInt2CoordSIT end(table); end.NotDone(); end.Next()) last = end.CurrentKey();
-        level.points.Reserve(walk.CurrentKey(), last, static_cast<std::size_t>(table.Size()));
-    }
-    for (; walk.NotDone(); walk.Next())
+    if (table.Size() == 0) return;
+    omi_IntTableCoord const& nodes = table.ConstGet();
+    level.points.Reserve(nodes.MinKey(), nodes.MaxKey(), static_cast<std::size_t>(table.Size()));
+    for (inp_MapInt2CoordSIT walk(table); walk.NotDone(); walk.Next())
         level.points.Add(walk.CurrentKey(), static_cast<std::int32_t>(m_pointCount++));
 }
 
 // The elements of the level that make a cell get the next cell indices;
 // the others are counted by what kept them out.
 void fedeck_AssembledMesh::indexCells(Level& level) {
-    if (level.elements == nullptr) return;
-    inp_MapInt2ElementSIT walk(*level.elements);
-    if (walk.NotDone()) {
-        int last = walk.CurrentKey();
-        for (inp_MapInt2ElementSIT end(*level.elements); end.NotDone(); end.Next())
-            last = end.CurrentKey();
-        level.cells.Reserve(walk.CurrentKey(), last,
-                            static_cast<std::size_t>(level.elements->Size()));
-    }
+    if (level.elements == nullptr || level.elements->Size() == 0) return;
+    omi_IntTableElement const& elements = *level.elements->ConstGetTable();
+    level.cells.Reserve(elements.MinKey(), elements.MaxKey(),
+                        static_cast<std::size_t>(level.elements->Size()));
     std::int32_t points[inp_VtkCell::kMaxNodes];
-    for (; walk.NotDone(); walk.Next()) {
+    for (inp_MapInt2ElementSIT walk(*level.elements); walk.NotDone(); walk.Next()) {
         inp_Element const& element = walk.CurrentValue();
         ElementType const& type = typeOf(element.type());
         if (type.cell == nullptr) {

@@ -66,7 +66,8 @@ int fedeck_Convert(fedeck_Arguments const& arguments, aio_ostream& err,
     if (!canCreate(output, err)) return fedeck_EXIT_USAGE;
     // A quick conversion shows no progress; one that takes more than a
     // second shows the share written.
-    fedeck_ProgressLine progress(err, "writing " + output, fedeck_ProgressLine::IsTerminal(err));
+    fedeck_ProgressLine progress(err, fedeck_ProgressLine::IsTerminal(err));
+    std::string const writing = "writing " + output;
     fedeck_CheckedDeck checked(arguments, fedeck_LastStageToRun(std::string()));
     fedeck_Report const report = checked.Report();
     report.WriteDiagnostics(err, arguments.maxDiagnostics);
@@ -76,7 +77,7 @@ int fedeck_Convert(fedeck_Arguments const& arguments, aio_ostream& err,
         warnOfLeftOut(mesh, output, err);
         fedeck_VtuOptions options;
         options.ascii = arguments.ascii;
-        options.progress = [&progress](double share) { progress.Show(share); };
+        options.progress = [&](double share) { progress.ShowShare(writing, share); };
         std::string const failure = fedeck_WriteVtu(mesh, output, options);
         progress.Clear();
         if (!failure.empty()) {

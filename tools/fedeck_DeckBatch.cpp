@@ -1,7 +1,5 @@
 #include "tools/fedeck_DeckBatch.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -23,6 +21,7 @@
 #include "tools/fedeck_Commands.h"
 #include "tools/fedeck_Json.h"
 #include "tools/fedeck_Pipeline.h"
+#include "tools/fedeck_ProgressLine.h"
 #include "tools/fedeck_Report.h"
 #include "tools/fedeck_Sarif.h"
 
@@ -237,23 +236,6 @@ class DeckQueue {
     std::vector<bool> m_done;
 };
 
-class ProgressLine {
-  public:
-    ProgressLine(aio_ostream& err, size_t decks)
-        : m_err(err), m_decks(decks), m_shown(decks > 1 && &err == &aio_cerr() && isatty(2)) {}
-    void Show(size_t checked) {
-        if (m_shown) m_err.print("\rfedeck: checked ") << checked << " of " << m_decks << " decks";
-    }
-    void Clear() {
-        if (m_shown) m_err.print("\r\x1b[K");
-    }
-
-  private:
-    aio_ostream& m_err;
-    size_t m_decks;
-    bool m_shown;
-};
-
 }  // namespace
 
 int fedeck_WriteCheckReport(fedeck_Report const& report, fedeck_Arguments const& arguments,
@@ -298,7 +280,9 @@ int fedeck_CheckDecks(fedeck_Arguments const& arguments, aio_ostream& out, aio_o
         return threads > 1 ? queue.Await(deck) : checkDeck(arguments, decks[deck], lastStage);
     };
 
-    ProgressLine progress(err, decks.size());
+    // The count shows from the first deck on, without a delay.
+    fedeck_ProgressLine progress(err, decks.size() > 1 && fedeck_ProgressLine::IsTerminal(err),
+                                 std::chrono::seconds(0));
     BatchSummary summary;
     fedeck_SarifLog sarif;
     int worst = fedeck_EXIT_CLEAN;
@@ -309,7 +293,8 @@ int fedeck_CheckDecks(fedeck_Arguments const& arguments, aio_ostream& out, aio_o
         sarif.Add(outcome.sarif);
         summary.Count(outcome);
         worst = std::max(worst, outcome.status);
-        progress.Show(deck + 1);
+        progress.Show("checked " + std::to_string(deck + 1) + " of " +
+                      std::to_string(decks.size()) + " decks");
     }
     progress.Clear();
     if (arguments.format == fedeck_Format::Sarif) sarif.Write(out);

@@ -2,21 +2,28 @@
 
 #include <unistd.h>
 
+#include <string>
+
 #include "support/aio_Stream.h"
 
-fedeck_ProgressLine::fedeck_ProgressLine(aio_ostream& err, std::string what, bool terminal,
-                                         Clock::duration delay)
-    : m_err(err), m_what(std::move(what)), m_terminal(terminal), m_showFrom(Clock::now() + delay) {}
+fedeck_ProgressLine::fedeck_ProgressLine(aio_ostream& err, bool terminal, Clock::duration delay)
+    : m_err(err), m_terminal(terminal), m_showFrom(Clock::now() + delay) {}
 
 bool fedeck_ProgressLine::IsTerminal(aio_ostream const& err) {
     return &err == &aio_cerr() && isatty(2);
 }
 
-void fedeck_ProgressLine::Show(double share) {
+void fedeck_ProgressLine::Show(std::string_view text) {
     if (!m_terminal || Clock::now() < m_showFrom) return;
     m_shown = true;
-    m_err.print("\rfedeck: ").print(m_what).print(": ") << static_cast<int>(share * 100.0) << "%";
+    m_err.print("\rfedeck: ").print(text);
     m_err.flush();
+}
+
+void fedeck_ProgressLine::ShowShare(std::string_view what, double share) {
+    std::string text(what);
+    text.append(": ").append(std::to_string(static_cast<int>(share * 100.0))).append("%");
+    Show(text);
 }
 
 void fedeck_ProgressLine::Clear() {

@@ -28,21 +28,20 @@ def _cell_of(library, element_type, cache):
 
 
 class _Level:
-    """One level of the assembled mesh: its point range and label lookup."""
+    """One level of the assembled mesh: its labels (ascending) and the index
+    of its first point."""
 
-    def __init__(self, instance, nodes, first_point):
-        self.instance = instance
+    def __init__(self, nodes, first_point):
         self.labels = numpy.asarray(nodes.labels, dtype=numpy.int64)
         self.first_point = first_point
 
     def points_of(self, labels):
         """Point indices of node labels; -1 where the level lacks the label."""
         labels = numpy.asarray(labels, dtype=numpy.int64)
-        at = numpy.searchsorted(self.labels, labels)
-        at = numpy.minimum(at, max(len(self.labels) - 1, 0))
-        found = (len(self.labels) > 0) & (self.labels[at] == labels) if len(self.labels) else \
-            numpy.zeros(labels.shape, dtype=bool)
-        return numpy.where(found, at + self.first_point, -1)
+        if len(self.labels) == 0:
+            return numpy.full(labels.shape, -1, dtype=numpy.int64)
+        at = numpy.minimum(numpy.searchsorted(self.labels, labels), len(self.labels) - 1)
+        return numpy.where(self.labels[at] == labels, at + self.first_point, -1)
 
 
 def to_meshio(model):
@@ -65,7 +64,7 @@ def to_meshio(model):
         points.append(coordinates)
         node_labels.append(numpy.asarray(level.nodes.labels, dtype=numpy.int32))
         point_instances.append(numpy.full(len(coordinates), index, dtype=numpy.int32))
-        by_level[name] = _Level(index, level.nodes, first)
+        by_level[name] = _Level(level.nodes, first)
         first += len(coordinates)
 
     cells, element_labels, cell_instances, blocks = [], [], [], []

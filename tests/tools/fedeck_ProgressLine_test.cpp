@@ -17,9 +17,9 @@ std::string textOf(aio_ostringstream const& stream) {
 
 TEST(ProgressLine, ShowsTheShareOnATerminalAfterItsDelayAndWipesIt) {
     aio_ostringstream err;
-    fedeck_ProgressLine line(err, "writing out.vtu", true, std::chrono::seconds(0));
-    line.Show(0.25);
-    line.Show(0.999);
+    fedeck_ProgressLine line(err, true, std::chrono::seconds(0));
+    line.ShowShare("writing out.vtu", 0.25);
+    line.ShowShare("writing out.vtu", 0.999);
     EXPECT_EQ(textOf(err), "\rfedeck: writing out.vtu: 25%\rfedeck: writing out.vtu: 99%");
     line.Clear();
     EXPECT_EQ(textOf(err).substr(textOf(err).size() - 4), "\r\x1b[K");
@@ -27,14 +27,14 @@ TEST(ProgressLine, ShowsTheShareOnATerminalAfterItsDelayAndWipesIt) {
 
 TEST(ProgressLine, AQuickJobOrAStreamThatIsNoTerminalShowsNothing) {
     aio_ostringstream quick;
-    fedeck_ProgressLine early(quick, "writing out.vtu", true, std::chrono::hours(1));
-    early.Show(0.5);
+    fedeck_ProgressLine early(quick, true, std::chrono::hours(1));
+    early.ShowShare("writing out.vtu", 0.5);
     early.Clear();
     EXPECT_EQ(textOf(quick), "");
 
     aio_ostringstream file;
-    fedeck_ProgressLine notTerminal(file, "writing out.vtu", false, std::chrono::seconds(0));
-    notTerminal.Show(0.5);
+    fedeck_ProgressLine notTerminal(file, false, std::chrono::seconds(0));
+    notTerminal.ShowShare("writing out.vtu", 0.5);
     notTerminal.Clear();
     EXPECT_EQ(textOf(file), "");
     EXPECT_FALSE(fedeck_ProgressLine::IsTerminal(file));
