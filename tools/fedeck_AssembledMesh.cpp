@@ -28,8 +28,11 @@ void collect(cow_List<int> const& ids, fedeck_LabelIndex const& index,
     }
 }
 
+// Members mostly come in ascending order already (sorted sets, labels
+// walked in order), which is checked in one pass before sorting.
 void finish(fedeck_AssembledMesh::Set& set, std::vector<fedeck_AssembledMesh::Set>& out) {
-    std::sort(set.members.begin(), set.members.end());
+    if (!std::is_sorted(set.members.begin(), set.members.end()))
+        std::sort(set.members.begin(), set.members.end());
     set.members.erase(std::unique(set.members.begin(), set.members.end()), set.members.end());
     out.push_back(std::move(set));
 }
