@@ -3,9 +3,21 @@
 #include "deck/inp_QuotedText.h"
 #include "deck/inp_RawDataArrayImpl.h"
 
-inp_DataArray::inp_DataArray() : m_impl(new inp_RawDataArrayImpl()) {}
+inp_DataArray::inp_DataArray() : m_impl(new inp_RawDataArrayImpl()) {
+    retain();
+}
 
-inp_DataArray::inp_DataArray(inp_DataArrayImpl* impl) : m_impl(impl) {}
+inp_DataArray::inp_DataArray(inp_DataArrayImpl* impl) : m_impl(impl) {
+    retain();
+}
+
+// Out of line, like the counts of the other shared handles: when two handles
+// of one array die in the same function, the compiler's use-after-free
+// analysis cannot tell that only the last one deletes.
+void inp_DataArray::release() noexcept {
+    if (m_impl && --m_impl->m_handles == 0) delete m_impl;
+    m_impl = nullptr;
+}
 
 cow_String inp_DataArray::AsString(int i, int j, cow_String const& fallback) const {
     if (i >= 0 && i < Rows() && j >= 0 && j < Cols(i)) return AsString(i, j);

@@ -9,6 +9,10 @@
 
 class inp_DataArrayImpl : public mem_AllocationOperators {
   public:
+    inp_DataArrayImpl() = default;
+    // A copy of an implementation starts with no handles of its own.
+    inp_DataArrayImpl(inp_DataArrayImpl const&) {}
+    inp_DataArrayImpl& operator=(inp_DataArrayImpl const&) = delete;
     virtual ~inp_DataArrayImpl() = default;
 
     virtual int Rows() const = 0;
@@ -30,4 +34,10 @@ class inp_DataArrayImpl : public mem_AllocationOperators {
     virtual bool HasRowContinuation(int i) const = 0;
     // A deep copy, owned by the caller.
     virtual inp_DataArrayImpl* Copy() const = 0;
+
+  private:
+    friend class inp_DataArray;
+    // The inp_DataArray handles that share this object. Kept in the object
+    // itself, so that a keyword's data costs one allocation, not two.
+    int m_handles = 0;
 };

@@ -19,11 +19,12 @@ std::string_view withoutOuterBlanks(std::string_view text) {
     return text.substr(begin, end + 1 - begin);
 }
 
-// A matched text is a view into `text`; when it covers all of it the string
-// is shared rather than copied.
-cow_String textOf(std::string_view matched, cow_String const& text) {
-    if (matched.data() == text.CStr() && matched.size() == static_cast<size_t>(text.Length()))
-        return text;
+// A matched text is a view into the text; when it covers all of a string
+// that holds it, the string is shared rather than copied.
+cow_String textOf(std::string_view matched, cow_String const* whole) {
+    if (whole && matched.data() == whole->CStr() &&
+        matched.size() == static_cast<size_t>(whole->Length()))
+        return *whole;
     return cow_String(matched);
 }
 
@@ -69,11 +70,15 @@ inp_Item::inp_Item(bool flag) : m_type(inp_Types::inp_BOOLEAN), m_bool(flag) {}
 inp_Item::inp_Item(double value) : m_type(inp_Types::inp_REAL), m_double(value) {}
 
 inp_Item::inp_Item(cow_String const& text) {
-    inferFrom(text);
+    inferFrom(text.View(), &text);
 }
 
-void inp_Item::inferFrom(cow_String const& text) {
-    std::string_view value = withoutOuterBlanks(text.View());
+inp_Item::inp_Item(std::string_view text) {
+    inferFrom(text, nullptr);
+}
+
+void inp_Item::inferFrom(std::string_view text, cow_String const* whole) {
+    std::string_view value = withoutOuterBlanks(text);
     if (value.empty()) return;
     using Matchers = inp_PatternMatchers;
     if (inp_PatternMatch match = Matchers::MatchInteger(value)) {
@@ -82,12 +87,12 @@ void inp_Item::inferFrom(cow_String const& text) {
     } else if ((match = Matchers::MatchSetName(
                     value))) {  // NOLINT(bugprone-branch-clone): the order decides
         m_type = inp_Types::inp_STRING;
-        m_string = textOf(match.text, text);
+        m_string = textOf(match.text, whole);
     } else if (Matchers::MatchScopedID(value)) {
         // The pattern's only group is the repeated "name." prefix; the item
         // is the whole scoped id, instance names and number together.
         m_type = inp_Types::inp_STRING;
-        m_string = textOf(value, text);
+        m_string = textOf(value, whole);
     } else if ((match = Matchers::MatchDouble(value))) {
         m_type = inp_Types::inp_REAL;
         m_double = realOf(match.text);
@@ -96,7 +101,7 @@ void inp_Item::inferFrom(cow_String const& text) {
         m_double = realOfFortranForm(match.text);
     } else if ((match = Matchers::MatchFileName(value))) {
         m_type = inp_Types::inp_STRING;
-        m_string = textOf(match.text, text);
+        m_string = textOf(match.text, whole);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <string_view>
 
 #include "deck/inp_Types.h"
 #include "support/cow_String.h"
@@ -19,6 +20,8 @@ class inp_Item {
     // Text that fits none of these, or only blanks, gives an item without a
     // value. A string item keeps the matched text as written, quotes and case.
     explicit inp_Item(cow_String const& text);
+    // The same, for text that is not held in a string yet.
+    explicit inp_Item(std::string_view text);
     // Without this a string literal would pick the bool constructor.
     explicit inp_Item(char const* text) : inp_Item(cow_String(text)) {}
 
@@ -37,7 +40,9 @@ class inp_Item {
     cow_String AsString() const;
 
   private:
-    void inferFrom(cow_String const& text);
+    // `whole`, when given, holds `text`: a string item that keeps all of it
+    // shares it instead of copying.
+    void inferFrom(std::string_view text, cow_String const* whole);
     [[noreturn]] void throwConversion(char const* format) const;
 
     inp_Types::typeEnm m_type = inp_Types::inp_NONE;

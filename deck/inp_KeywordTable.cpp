@@ -16,34 +16,41 @@ inp_KeywordTable::inp_KeywordTable() {
         m_suboptionMap.Insert(row->keyword, suboptions);
         m_enumMap.Insert(cow_String(row->name), row->keyword);
         m_nameMap.Insert(row->keyword, cow_String(row->name));
+        m_sortedNames.emplace_back(row->name, row->keyword);
     }
+    std::sort(m_sortedNames.begin(), m_sortedNames.end());
     thr_ThrSingletonRegistry::SetDestructLevel(&thr_ThreadSingleton<inp_KeywordTable>::Finalize, 9);
 }
 
-cow_String inp_KeywordTable::FullName(cow_String const& name) const {
-    if (m_enumMap.IsMember(name)) return name;
+// The names that start with `name` lie together in sorted order, from where
+// `name` would stand: an exact name is the first of them.
+int inp_KeywordTable::Match(std::string_view name, inp_KeywordEnm& keyword) const {
+    auto at = std::lower_bound(m_sortedNames.begin(), m_sortedNames.end(), name,
+                               [](std::pair<std::string_view, inp_KeywordEnm> const& entry,
+                                  std::string_view wanted) { return entry.first < wanted; });
     int matches = 0;
-    cow_String last;
-    for (cow_ConstMapIterator<cow_String, inp_KeywordEnm> it(m_enumMap); it.NotDone(); it.Next()) {
-        if (it.CurrentKey().StartsWith(name.View())) {
-            ++matches;
-            last = it.CurrentKey();
-        }
+    for (auto it = at; it != m_sortedNames.end() && it->first.starts_with(name); ++it) {
+        if (matches == 0) keyword = it->second;
+        if (++matches == 1 && it->first == name) return 1;
+        if (matches > 1) break;
     }
+    if (matches != 1) keyword = inp_kw_UndefinedKeyword;
+    return matches;
+}
+
+cow_String inp_KeywordTable::FullName(cow_String const& name) const {
+    inp_KeywordEnm keyword = inp_kw_UndefinedKeyword;
+    int const matches = Match(name.View(), keyword);
     if (matches == 0) throw inp_UnknownKeywordException(0, cow_String(), name);
     if (matches > 1) throw inp_AmbiguousKeywordException(0, cow_String(), name);
-    return last;
+    return m_nameMap.ConstGet(keyword);
 }
 
 inp_KeywordEnm inp_KeywordTable::Enum(cow_String const& name) const {
     if (inp_KeywordEnm const* exact = m_enumMap.Find(name)) return *exact;
-    try {
-        return m_enumMap.ConstGet(FullName(name));
-    } catch (inp_UnknownKeywordException const&) {
-        return inp_kw_UndefinedKeyword;
-    } catch (inp_AmbiguousKeywordException const&) {
-        return inp_kw_UndefinedKeyword;
-    }
+    inp_KeywordEnm keyword = inp_kw_UndefinedKeyword;
+    Match(name.View(), keyword);
+    return keyword;
 }
 
 cow_String inp_KeywordTable::Name(inp_KeywordEnm keyword) const {

@@ -7,6 +7,10 @@
 // Any unique prefix of a name resolves to it; an exact name wins over longer
 // names that start with it.
 
+#include <string_view>
+#include <utility>
+#include <vector>
+
 #include "deck/inp_keywords.h"
 #include "support/cow_List.h"
 #include "support/cow_Map.h"
@@ -22,6 +26,11 @@ class inp_KeywordTable : public thr_ThreadSingleton<inp_KeywordTable> {
     cow_String FullName(cow_String const& name) const;
     // The enumerator; 0 for an unknown or ambiguous name.
     inp_KeywordEnm Enum(cow_String const& name) const;
+    // How a folded name resolves, without throwing: 0 if it is no name and
+    // abbreviates none, 1 if it is a name or abbreviates exactly one (then
+    // `keyword` is set to it), more if it abbreviates several. Any count but
+    // 1 leaves `keyword` 0.
+    int Match(std::string_view name, inp_KeywordEnm& keyword) const;
     // The table's name; the enumerator must exist.
     cow_String Name(inp_KeywordEnm keyword) const;
     // Direct suboptions; the enumerator must exist.
@@ -57,4 +66,6 @@ class inp_KeywordTable : public thr_ThreadSingleton<inp_KeywordTable> {
     cow_Map<int, cow_List<int>> m_suboptionMap;     // enumerator to suboptions
     cow_Map<cow_String, inp_KeywordEnm> m_enumMap;  // name to enumerator
     cow_Map<int, cow_String> m_nameMap;             // enumerator to name
+    // Every name with its enumerator, in ascending order of the names.
+    std::vector<std::pair<std::string_view, inp_KeywordEnm>> m_sortedNames;
 };

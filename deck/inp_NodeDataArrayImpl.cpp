@@ -275,7 +275,8 @@ inp_NodeDataArrayImpl::inp_NodeDataArrayImpl(int size) {
     allocate(size, true, kPositionDoubles);
 }
 
-inp_NodeDataArrayImpl::inp_NodeDataArrayImpl(inp_NodeDataArrayImpl const& other) {
+inp_NodeDataArrayImpl::inp_NodeDataArrayImpl(inp_NodeDataArrayImpl const& other)
+    : inp_DataArrayImpl() {
     allocate(other.allocatedSize, false, other.width);
     nrows = other.nrows;
     size_t size = static_cast<size_t>(allocatedSize);

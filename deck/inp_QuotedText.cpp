@@ -10,8 +10,10 @@ namespace {
 // caller can pass, goes to the heap instead of overrunning the buffer.
 constexpr size_t kStackBuffer = 272;
 
+// `unchanged`, when given, is the string `text` comes from: a fold that
+// changes nothing hands it back instead of a new copy.
 template <bool upper>
-cow_String foldOutsideQuotes(char const* text) {
+cow_String foldOutsideQuotes(char const* text, cow_String const* unchanged = nullptr) {
     if (!text) return cow_String();
     size_t length = 0;
     while (text[length] && text[length] != '\n') ++length;
@@ -39,6 +41,9 @@ cow_String foldOutsideQuotes(char const* text) {
     }
     if (endsAtNewline) out[used++] = '\n';
     if (used == 0) return cow_String();
+    if (unchanged && used == static_cast<size_t>(unchanged->Length()) &&
+        std::memcmp(out, text, used) == 0)
+        return *unchanged;
     return cow_String(out, static_cast<int>(used));
 }
 
@@ -50,4 +55,12 @@ cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(char const* text) {
 
 cow_String inp_TakeOutSpacesOutsideQuoted(char const* text) {
     return foldOutsideQuotes<false>(text);
+}
+
+cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(cow_String const& text) {
+    return foldOutsideQuotes<true>(text.CStr(), &text);
+}
+
+cow_String inp_TakeOutSpacesOutsideQuoted(cow_String const& text) {
+    return foldOutsideQuotes<false>(text.CStr(), &text);
 }

@@ -13,3 +13,8 @@ cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(char const* text);
 
 // The same without upper-casing.
 cow_String inp_TakeOutSpacesOutsideQuoted(char const* text);
+
+// The same folds of a whole string; a string that folds to itself is handed
+// back, shared, instead of copied.
+cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(cow_String const& text);
+cow_String inp_TakeOutSpacesOutsideQuoted(cow_String const& text);

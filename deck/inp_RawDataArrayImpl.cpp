@@ -52,7 +52,8 @@ double parseDouble(char const* text) {
 inp_RawDataArrayImpl::inp_RawDataArrayImpl() = default;
 
 // The copy packs every row that is left into one text block of its own.
-inp_RawDataArrayImpl::inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other) {
+inp_RawDataArrayImpl::inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other)
+    : inp_DataArrayImpl() {
     if (other.nrows == 0) return;
     size_t total = 0;
     int live = 0;
@@ -94,12 +95,31 @@ inp_RawDataArrayImpl::inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other) {
 
 inp_RawDataArrayImpl::~inp_RawDataArrayImpl() {
     for (int k = 0; k < nownRows; ++k) mem_Free(rows[ownRows[k]]);
-    for (int k = 0; k < nblocks; ++k) mem_Free(blocks[k].text);
+    for (int k = 0; k < nblocks; ++k) freeText(blocks[k].text);
     mem_Free(ownRows);
-    mem_Free(blocks);
-    mem_Free(rows);
-    mem_Free(ncols);
+    if (blocks != firstBlock) mem_Free(blocks);
+    if (rows != firstRow) mem_Free(rows);
+    if (ncols != firstColumns) mem_Free(ncols);
 }
+
+void inp_RawDataArrayImpl::freeText(char* text) noexcept {
+    if (text != inlineText) mem_Free(text);
+}
+
+namespace {
+
+// realloc for a table that may still lie in the object (`inPlace`): such a
+// table is copied out, never handed to the allocator.
+template <class T>
+T* grownTable(T* table, T* inPlace, int oldSize, int newSize) {
+    size_t const bytes = sizeof(T) * static_cast<size_t>(newSize);
+    if (table != inPlace) return static_cast<T*>(mem_Realloc(table, bytes));
+    T* grown = static_cast<T*>(mem_Malloc(bytes));
+    if (grown) std::memcpy(grown, table, sizeof(T) * static_cast<size_t>(oldSize));
+    return grown;
+}
+
+}  // namespace
 
 // A row block holds the line with zeros for commas: its size is the position
 // of the last item's terminator plus one.
@@ -128,7 +148,7 @@ void inp_RawDataArrayImpl::dropRowText(int i) noexcept {
         std::memmove(own, own + 1, sizeof(int) * static_cast<size_t>(ownRows + nownRows - own - 1));
         --nownRows;
     } else if (TextBlock& block = blockOf(i); --block.liveRows == 0) {
-        mem_Free(block.text);
+        freeText(block.text);
         block.text = nullptr;
         block.used = block.capacity = 0;
     }
@@ -148,20 +168,14 @@ inp_DataArrayImpl* inp_RawDataArrayImpl::Copy() const {
     return new inp_RawDataArrayImpl(*this);
 }
 
-// The row table is allocated on the first append rather than at construction:
-// most keywords have no data lines, and the first append gives the same 10 rows.
+// The row table starts with the one row that lies in the object and doubles.
 void inp_RawDataArrayImpl::growIfFull() {
     if (nrows + 1 <= allocatedSize) return;
-    // Most keywords have one data line or a few: the table starts at one row
-    // and doubles, so that a million one-line keywords don't each hold room
-    // for ten.
-    int const newSize = allocatedSize > 0 ? allocatedSize * 2 : 1;
-    auto* newRows =
-        static_cast<char**>(mem_Realloc(rows, sizeof(char*) * static_cast<size_t>(newSize)));
+    int const newSize = allocatedSize * 2;
+    char** newRows = grownTable(rows, firstRow, allocatedSize, newSize);
     if (!newRows) throw inp_MemoryException();
     rows = newRows;
-    auto* newCols =
-        static_cast<int*>(mem_Realloc(ncols, sizeof(int) * static_cast<size_t>(newSize)));
+    int* newCols = grownTable(ncols, firstColumns, allocatedSize, newSize);
     if (!newCols) throw inp_MemoryException();
     ncols = newCols;
     allocatedSize = newSize;
@@ -186,12 +200,15 @@ char* inp_RawDataArrayImpl::packedRoom(size_t size) {
         }
     }
     if (nblocks == allocatedBlocks) {
-        int const newSize = allocatedBlocks > 0 ? allocatedBlocks * 2 : 1;
-        auto* newBlocks = static_cast<TextBlock*>(
-            mem_Realloc(blocks, sizeof(TextBlock) * static_cast<size_t>(newSize)));
+        int const newSize = allocatedBlocks * 2;
+        TextBlock* newBlocks = grownTable(blocks, firstBlock, allocatedBlocks, newSize);
         if (!newBlocks) throw inp_MemoryException();
         blocks = newBlocks;
         allocatedBlocks = newSize;
+    }
+    if (nblocks == 0 && size <= kInlineText) {
+        blocks[nblocks++] = TextBlock{inlineText, size, kInlineText, nrows, 1};
+        return inlineText;
     }
     size_t const grown =
         nblocks > 0 ? std::min(2 * blocks[nblocks - 1].capacity, kMaxBlockSize) : 0;

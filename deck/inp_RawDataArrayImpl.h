@@ -8,6 +8,11 @@
 // allocations, not a million. A row rewritten by Set() gets a block of its
 // own. Nothing is typed or converted until somebody asks.
 //
+// Most small keywords have one data line: the tables of the first row and
+// of the first text block lie in the object itself, and so does the first
+// block's text when it is short, so that such a keyword's data cost one
+// allocation.
+//
 // Not thread-safe, and not const-pure: AsDouble rewrites a D exponent letter
 // in the stored text so that a second read needs no work.
 
@@ -52,6 +57,8 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
 
     // The largest text block rows are packed into.
     static constexpr size_t kMaxBlockSize = size_t{256} << 10;
+    // The first text block lies in the object when its first row fits here.
+    static constexpr size_t kInlineText = 32;
 
   private:
     // A block of packed row text: rows [firstRow, next block's firstRow).
@@ -64,6 +71,8 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
     };
 
     void growIfFull();
+    // Lets go of a text block's text unless it lies in the object.
+    void freeText(char* text) noexcept;
     // Room for `size` bytes at the end of the last text block, or in a new
     // block; the row being appended is counted in the block.
     char* packedRoom(size_t size);
@@ -81,14 +90,19 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
     void checkRow(int i) const;
     void checkItem(int i, int j) const;
 
-    int nrows = 0;          // rows in use
-    int allocatedSize = 0;  // rows allocated
-    char** rows = nullptr;  // each row's text: in a text block, or a block of its own
-    int* ncols = nullptr;   // items per row
-    TextBlock* blocks = nullptr;
+    int nrows = 0;              // rows in use
+    int allocatedSize = 1;      // rows allocated
+    char** rows = firstRow;     // each row's text: in a text block, or a block of its own
+    int* ncols = firstColumns;  // items per row
+    TextBlock* blocks = firstBlock;
     int nblocks = 0;
-    int allocatedBlocks = 0;
+    int allocatedBlocks = 1;
     // The rows rewritten by Set(), ascending: each has a block of its own.
     int* ownRows = nullptr;
     int nownRows = 0;
+    // The tables' first entries, until a second row or block moves them out.
+    char* firstRow[1] = {};
+    int firstColumns[1] = {};
+    TextBlock firstBlock[1] = {};
+    char inlineText[kInlineText] = {};
 };

@@ -40,13 +40,19 @@ bool keepsCase(inp_Keyword const& keyword, char const* word) {
 }
 
 // A string value loses its blanks outside quotes and is, as a rule,
-// upper-cased; the item is typed anew from the result. Other types stay.
-inp_Item normalisedValue(inp_Keyword const& keyword, char const* word, inp_Item const& value) {
+// upper-cased; the item is typed anew from the result. Other types stay, and
+// so does a string the rule leaves as it is.
+inp_Item normalisedValue(inp_Keyword const& keyword, char const* word, inp_Item const& value,
+                         bool& changed) {
+    changed = false;
     if (!isType(value, inp_Types::inp_STRING)) return value;
     cow_String const text = value.AsString();
-    return inp_Item(keepsCase(keyword, word)
-                        ? inp_Utils::TakeOutSpacesOutsideQuoted(text.CStr())
-                        : inp_Utils::TakeOutSpacesAndUpperOutsideQuoted(text.CStr()));
+    cow_String const folded = keepsCase(keyword, word)
+                                  ? inp_Utils::TakeOutSpacesOutsideQuoted(text)
+                                  : inp_Utils::TakeOutSpacesAndUpperOutsideQuoted(text);
+    if (folded == text) return value;
+    changed = true;
+    return inp_Item(folded);
 }
 
 bool skippedByGuard(inp_EnumGuard guard, inp_Item const& item) {
@@ -173,27 +179,44 @@ void inp_KeywordExpansionVisitor::ExpandParameters(inp_Keyword& keyword, char co
     expandParameterNames(keyword, table);
 }
 
+// Most keywords are written with their parameters in full and in the form
+// expansion gives them: their map is kept as it is. A new map is made from
+// the first parameter that changes, with the ones before it as they were.
+// A map of more than two parameters is always made anew: the order in which
+// the keyword is written back is the walk of the map's tree, and a tree
+// built in the order of that walk is the one every later reading of the
+// written keyword gives again. (With one or two parameters the two trees
+// are the same.)
 void inp_KeywordExpansionVisitor::expandParameterNames(inp_Keyword& keyword,
                                                        char const* const* table) {
     m_matched.clear();
     if (keyword.Parameters().IsEmpty()) return;
     if (!table) table = kNoWords;
+    cow_Map<cow_String, inp_Item> const& written = keyword.Parameters();
     cow_Map<cow_String, inp_Item> expanded;
-    for (cow_ConstMapIterator<cow_String, inp_Item> it(keyword.Parameters()); it.NotDone();
-         it.Next()) {
+    int taken = 0;  // parameters walked so far
+    bool rebuilt = written.Size() > 2;
+    for (cow_ConstMapIterator<cow_String, inp_Item> it(written); it.NotDone(); it.Next(), ++taken) {
         cow_String const& name = it.CurrentKey();
         char const* word = findParameterWord(keyword, name, table);
         if (!word) {
             error(keyword, atr("Unknown parameter: %s. The parameter may be misspelled, obsolete, "
                                "or invalid.",
                                name));
-            expanded.Insert(name, it.CurrentValue());
+            if (rebuilt) expanded.Insert(name, it.CurrentValue());
             continue;
         }
         // A name written in full keeps its string: no copy of the word.
         cow_String const key = name == word ? name : cow_String(word);
-        inp_Item const value = normalisedValue(keyword, word, it.CurrentValue());
-        if (!expanded.IsMember(key)) {
+        bool valueChanged = false;
+        inp_Item const value = normalisedValue(keyword, word, it.CurrentValue(), valueChanged);
+        if (!rebuilt && (valueChanged || !(key == name))) {
+            expanded = firstParameters(written, taken);
+            rebuilt = true;
+        }
+        // Until the map is rebuilt every key is a key of the written map, and
+        // those are distinct.
+        if (!rebuilt || !expanded.IsMember(key)) {
             m_matched.push_back({word, key});
         } else if (writtenWithoutValue(value)) {
             warning(
@@ -204,9 +227,19 @@ void inp_KeywordExpansionVisitor::expandParameterNames(inp_Keyword& keyword,
                                  "previous setting.",
                                  key, value.AsString()));
         }
-        expanded.Insert(key, value);
+        if (rebuilt) expanded.Insert(key, value);
     }
-    keyword.SetParameters(expanded);
+    if (rebuilt) keyword.SetParameters(expanded);
+}
+
+// The first `count` entries of `parameters` in the order of its walk.
+cow_Map<cow_String, inp_Item> inp_KeywordExpansionVisitor::firstParameters(
+    cow_Map<cow_String, inp_Item> const& parameters, int count) {
+    cow_Map<cow_String, inp_Item> first;
+    cow_ConstMapIterator<cow_String, inp_Item> it(parameters);
+    for (int i = 0; i < count && it.NotDone(); ++i, it.Next())
+        first.Insert(it.CurrentKey(), it.CurrentValue());
+    return first;
 }
 
 // The word of the table the name stands for: the first word that the name

@@ -249,6 +249,8 @@ class inp_KeywordExpansionVisitor : public inp_Visitor {
     // -- helpers of the engine ----------------------------------------------------------
     // ExpandParameters, remembering in m_matched the names that became words.
     void expandParameterNames(inp_Keyword& keyword, char const* const* table);
+    static cow_Map<cow_String, inp_Item> firstParameters(
+        cow_Map<cow_String, inp_Item> const& parameters, int count);
     char const* findParameterWord(inp_Keyword const& keyword, cow_String const& name,
                                   char const* const* table);
     cow_String const* matchedKey(char const* word) const;

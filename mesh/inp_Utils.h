@@ -56,6 +56,12 @@ class inp_Utils {
     static cow_String TakeOutSpacesOutsideQuoted(char const* text) {
         return inp_TakeOutSpacesOutsideQuoted(text);
     }
+    static cow_String TakeOutSpacesOutsideQuoted(cow_String const& text) {
+        return inp_TakeOutSpacesOutsideQuoted(text);
+    }
+    static cow_String TakeOutSpacesAndUpperOutsideQuoted(cow_String const& text) {
+        return inp_TakeOutSpacesAndUpperOutsideQuoted(text);
+    }
 
     // The pieces between unquoted periods, quotes kept. There is always a
     // last piece: "" gives one empty piece, "a." gives "a" and "".

@@ -1,5 +1,6 @@
 #include "parser/inp_Parser.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstring>
@@ -36,15 +37,10 @@ bool hasEncryptionMarker(char const* line) {
     return star && std::strstr(star, "** encrypted input");
 }
 
-// Lower case, every blank and tab removed: how keyword and parameter names compare.
-cow_String foldName(std::string_view text) {
-    cow_String folded;
-    folded.Reserve(static_cast<int>(text.size()));
-    for (char c : text) {
-        if (c == ' ' || c == '\t') continue;
-        folded.append(static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c));
-    }
-    return folded;
+std::string_view trimmedOf(std::string_view text) {
+    size_t const begin = text.find_first_not_of(" \t");
+    if (begin == std::string_view::npos) return {};
+    return text.substr(begin, text.find_last_not_of(" \t") + 1 - begin);
 }
 
 }  // namespace
@@ -193,7 +189,14 @@ inp_Keyword inp_Parser::ParseKeyword(bool strict) {
     char const* data = Readline();
     int lineNumber = m_lineNumber;
     ZELBAS_ASSERT_TEXT(IsKeyword(data), "IsKeyword(data)");
-    cow_String text = AppendContinuationLines(data, strict);
+    // Most keyword lines stand alone: they are read where they lie in the
+    // line buffer, which stays put until the data lines are read.
+    cow_String joined;
+    std::string_view text(data);
+    if (text.ends_with(',')) {
+        joined = AppendContinuationLines(data, strict);
+        text = joined.View();
+    }
 
     inp_Keyword keyword;
     keyword.SetLineNumber(lineNumber);
@@ -204,26 +207,34 @@ inp_Keyword inp_Parser::ParseKeyword(bool strict) {
     m_comments.Clear();
     m_commentsPending = false;
 
-    int comma = text.Find(',');
-    std::string_view nameText =
-        text.View().substr(1, comma < 0 ? std::string_view::npos : size_t(comma) - 1);
-    cow_String name = foldName(nameText);
-    inp_KeywordTable& table = inp_KeywordTable::Instance();
-    try {
-        keyword.SetKeyword(table.Enum(table.FullName(name)));
-    } catch (inp_UnknownKeywordException const&) {
-        throw inp_UnknownKeywordException(lineNumber, m_fileName, name);
-    } catch (inp_AmbiguousKeywordException const&) {
-        throw inp_AmbiguousKeywordException(lineNumber, m_fileName, name);
+    size_t const comma = text.find(',');
+    inp_KeywordResolver::Result const& resolved = m_keywordNames.Resolve(
+        text.substr(1, comma == std::string_view::npos ? std::string_view::npos : comma - 1));
+    cow_String const& name = resolved.folded;
+    // A name that is no keyword is an error of the line, not of the parser:
+    // it is kept without a throw, which would cost more than the rest of the
+    // line (a deck may hold a million of them), and the caller recovers.
+    // Past the limit of the error list the message would be dropped anyway,
+    // and is not even worded.
+    if (resolved.outcome == inp_KeywordResolver::Outcome::Unknown) {
+        if (m_errors.Length() <= kMessageLimit)
+            saveError(inp_UnknownKeywordException(lineNumber, m_fileName, name).UserReport());
+        return keyword;
     }
+    if (resolved.outcome == inp_KeywordResolver::Outcome::Ambiguous) {
+        if (m_errors.Length() <= kMessageLimit)
+            saveError(inp_AmbiguousKeywordException(lineNumber, m_fileName, name).UserReport());
+        return keyword;
+    }
+    keyword.SetKeyword(resolved.keyword);
 
-    if (comma >= 0) {
-        cow_String parameters = text.Substr(comma + 1);
-        parameters.Trim(" \t");
+    if (comma != std::string_view::npos) {
+        std::string_view parameters = trimmedOf(text.substr(comma + 1));
         try {
             ParseParameters(keyword, parameters, strict);
         } catch (inp_ParameterException const& cause) {
-            throw inp_KeywordParameterException(lineNumber, m_fileName, name.ToUpper(), cause);
+            throw inp_KeywordParameterException(lineNumber, m_fileName, cow_String(name).ToUpper(),
+                                                cause);
         }
     }
     if (keyword.Is(inp_kw_Include)) return keyword;
@@ -251,64 +262,59 @@ void inp_Parser::readDataLines(inp_Keyword& keyword) {
     });
 }
 
-cow_List<cow_String> inp_Parser::Split(cow_String const& text) const {
-    cow_List<cow_String> tokens;
+// The parameter text is split at commas outside double quotes; each piece
+// is trimmed, and empty pieces are dropped. An odd number of quotes leaves the
+// last one open, which is refused before any parameter is taken.
+void inp_Parser::ParseParameters(inp_Keyword& keyword, std::string_view text, bool strict) {
+    if (std::count(text.begin(), text.end(), '"') % 2 != 0)
+        throw inp_MissingEndQuoteException(cow_String(text));
+    cow_Map<cow_String, inp_Item>& parameters = keyword.GetParameters();
     bool quoted = false;
-    int start = 0;
-    int length = text.Length();
-    for (int i = 0; i <= length; ++i) {
-        char c = i < length ? text[i] : 0;
-        if (c == '"') {
-            quoted = !quoted;
-            continue;
-        }
-        if (i < length && (c != ',' || quoted)) continue;
-        if (i == length && quoted) throw inp_MissingEndQuoteException(text);
-        if (i > start) {
-            cow_String token = text.Substr(start, i - start);
-            token.Trim(" \t");
-            if (!token.IsEmpty()) tokens.Append(token);
-        }
+    size_t start = 0;
+    for (size_t i = 0; i <= text.size(); ++i) {
+        char const c = i < text.size() ? text[i] : ',';
+        if (c == '"') quoted = !quoted;
+        if (c != ',' || quoted) continue;
+        std::string_view const token = trimmedOf(text.substr(start, i - start));
         start = i + 1;
+        if (!token.empty()) addParameter(keyword, parameters, token, strict);
     }
-    return tokens;
 }
 
-void inp_Parser::ParseParameters(inp_Keyword& keyword, cow_String const& text, bool strict) {
-    cow_Map<cow_String, inp_Item> parameters;
-    for (cow_String const& token : Split(text)) {
-        int equals = token.Find('=');
-        cow_String name = equals < 0 ? token : token.Substr(0, equals);
-        cow_String value = equals < 0 ? cow_String() : token.Substr(equals + 1);
+void inp_Parser::addParameter(inp_Keyword const& keyword, cow_Map<cow_String, inp_Item>& parameters,
+                              std::string_view token, bool strict) {
+    size_t const equals = token.find('=');
+    std::string_view const written = token.substr(0, equals);
+    std::string_view const value =
+        equals == std::string_view::npos ? std::string_view() : token.substr(equals + 1);
 
-        if (inp_PatternMatch match = inp_PatternMatchers::MatchParam(name.View())) {
-            name = foldName(match.text);
-        } else if (strict) {
-            throw inp_InvalidParameterException(token);
-        }
-
-        if (parameters.IsMember(name)) {
-            cow_String shown = cow_String(value).Trim(" \t");
-            atr_String text =
-                value.IsEmpty()
-                    ? atr("Repeated parameter: %s.  New definition overrides previous setting.",
-                          name)
-                    : atr("Repeated parameter: %s.  New definition of \"%s\" overrides previous "
-                          "setting.",
-                          name, shown);
-            m_warnings.Append(inp_MessageInKeyword(keyword, text));
-        }
-
-        if (value.IsEmpty()) {
-            parameters.Insert(name, inp_Item(true));  // NSET and NSET= are the same
-            continue;
-        }
-        inp_Item item(value);
-        if (item.Type() == inp_Types::inp_NONE && strict)
-            throw inp_InvalidParameterValueException(name, value);
-        parameters.Insert(name, item);
+    cow_String name;
+    if (inp_PatternMatch match = inp_PatternMatchers::MatchParam(written)) {
+        name = m_names.Fold(match.text);
+    } else if (strict) {
+        throw inp_InvalidParameterException(cow_String(token));
+    } else {
+        name = cow_String(written);
     }
-    keyword.SetParameters(parameters);
+
+    if (parameters.IsMember(name)) {
+        atr_String text =
+            value.empty()
+                ? atr("Repeated parameter: %s.  New definition overrides previous setting.", name)
+                : atr("Repeated parameter: %s.  New definition of \"%s\" overrides previous "
+                      "setting.",
+                      name, cow_String(trimmedOf(value)));
+        m_warnings.Append(inp_MessageInKeyword(keyword, text));
+    }
+
+    if (value.empty()) {
+        parameters.Insert(name, inp_Item(true));  // NSET and NSET= are the same
+        return;
+    }
+    inp_Item item(value);
+    if (item.Type() == inp_Types::inp_NONE && strict)
+        throw inp_InvalidParameterValueException(name, cow_String(value));
+    parameters.Insert(name, item);
 }
 
 // ---------------------------------------------------------------- the loop
@@ -333,8 +339,7 @@ cow_List<inp_Keyword> inp_Parser::Parse(bool strict) {
     int memoryErrors = 0;
     while (!stop && !m_endOfFile) {
         try {
-            parseOneKeyword(strict);
-            continue;
+            if (parseOneKeyword(strict)) continue;
         } catch (...) {
             handleParseFailure(strict, memoryErrors);
         }
@@ -366,8 +371,9 @@ cow_List<inp_Keyword> inp_Parser::Parse(bool strict) {
     return m_keywords;
 }
 
-void inp_Parser::parseOneKeyword(bool strict) {
+bool inp_Parser::parseOneKeyword(bool strict) {
     inp_Keyword keyword = ParseKeyword(strict);
+    if (keyword.Keyword() == inp_kw_UndefinedKeyword) return false;
     if (typ_DebugFlags::GetDebugFlags(kDebugFlag) >= 2 && !m_encrypted) {
         pnt_debugPrint().StartDebug(__FILE__, __LINE__);
         pnt_debugPrint() << "Creating keyword: \"" << keyword.Name() << "\".";
@@ -376,8 +382,9 @@ void inp_Parser::parseOneKeyword(bool strict) {
     if (keyword.Is(inp_kw_Include)) {
         m_keywords.Concatenate(IncludeFile(keyword, strict));
     } else {
-        m_keywords.Append(keyword);
+        m_keywords.Append(std::move(keyword));
     }
+    return true;
 }
 
 // Called from a catch block: sorts the exception in flight by kind.

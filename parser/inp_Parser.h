@@ -9,7 +9,11 @@
 // lives in a buffer inside the object; a data line costs one Append and
 // nothing else.
 
+#include <string_view>
+
 #include "deck/inp_Keyword.h"
+#include "parser/inp_FoldedNames.h"
+#include "parser/inp_KeywordResolver.h"
 #include "support/aio_Stream.h"
 #include "support/atr_String.h"
 #include "support/cow_List.h"
@@ -72,11 +76,17 @@ class inp_Parser : public aio_ifstream {
     // kept for the next keyword, other lines forgotten.
     void recoverAtNextKeyword();
     cow_String AppendContinuationLines(char const* line, bool strict);
+    // A record without a keyword (enumerator 0) when the name is no keyword;
+    // the error is kept.
     inp_Keyword ParseKeyword(bool strict);
     void readDataLines(inp_Keyword& keyword);
-    void ParseParameters(inp_Keyword& keyword, cow_String const& text, bool strict);
-    cow_List<cow_String> Split(cow_String const& text) const;
-    void parseOneKeyword(bool strict);
+    void ParseParameters(inp_Keyword& keyword, std::string_view text, bool strict);
+    // One NAME or NAME=VALUE piece of the parameter text, trimmed and not empty.
+    void addParameter(inp_Keyword const& keyword, cow_Map<cow_String, inp_Item>& parameters,
+                      std::string_view token, bool strict);
+    // False when the keyword line was refused with an error already kept:
+    // the caller then recovers at the next keyword.
+    bool parseOneKeyword(bool strict);
     void handleParseFailure(bool strict, int& memoryErrors);
     void dropEverything();
 
@@ -116,4 +126,6 @@ class inp_Parser : public aio_ifstream {
     cow_List<atr_String> m_errors;
     cow_List<atr_String> m_warnings;
     cow_List<atr_String> m_fatalErrors;
+    inp_FoldedNames m_names;
+    inp_KeywordResolver m_keywordNames;
 };

@@ -64,6 +64,12 @@ bool accepts(cow_List<int> const& allowed, int key) {
     return false;
 }
 
+// The levels that only their own end keyword closes (see CanPopKeyword).
+bool closesAtItsOwnEnd(inp_KeywordEnm key) {
+    return key == inp_kw_Part || key == inp_kw_Instance || key == inp_kw_Step ||
+           key == inp_kw_Assembly;
+}
+
 // The record has no field of its own for the key of the keyword that holds
 // it; its level mark, which no stage before this one sets, carries it.
 void setParentKey(inp_Keyword& keyword, int parentKey) {
@@ -88,7 +94,12 @@ void inp_OrganizerVisitor::DefaultAction(inp_Keyword& keyword) {
     for (;;) {
         if (accepts(m_allowedKeys.Last(), key)) {
             printMove("OrganizerVisitor - Push: ", keyword);
-            push(keyword);
+            // A keyword of a flat list is taken out of it rather than copied;
+            // one with suboptions stays, as the walk goes on into them.
+            if (keyword.Suboptions().IsEmpty())
+                push(std::move(keyword));
+            else
+                push(keyword);
             return;
         }
         if (m_openKeywords.Length() == 1 || !CanPopKeyword(m_openKeywords.Last(), keyword)) {
@@ -159,9 +170,17 @@ cow_List<int> inp_OrganizerVisitor::allowedBelow(int key) {
     return sorted;
 }
 
-void inp_OrganizerVisitor::push(inp_Keyword const& keyword) {
-    m_allowedKeys.Append(allowedBelow(keyword.Keyword()));
-    m_openKeywords.Append(keyword);
+// A keyword that may hold nothing would be closed by whatever comes next, as
+// it accepts nothing: it goes straight into the open level that takes it
+// instead of through the stack.
+void inp_OrganizerVisitor::push(inp_Keyword keyword) {
+    cow_List<int> allowed = allowedBelow(keyword.Keyword());
+    if (allowed.IsEmpty() && !closesAtItsOwnEnd(keyword.Keyword())) {
+        m_openKeywords.GetLast().GetSuboptions().Append(std::move(keyword));
+        return;
+    }
+    m_allowedKeys.Append(std::move(allowed));
+    m_openKeywords.Append(std::move(keyword));
 }
 
 void inp_OrganizerVisitor::closeTop() {

@@ -12,6 +12,9 @@
 // but steps.
 //
 // Use: construct, VisitListAndReport over the flat list, then Keywords() once.
+// The walk takes the keywords it places out of the flat list, leaving empty
+// records behind (a keyword with suboptions is copied instead): the flat list
+// is meant to be replaced by what Keywords() returns.
 
 #include "deck/inp_Keyword.h"
 #include "pipeline/inp_Visitor.h"
@@ -50,7 +53,7 @@ class inp_OrganizerVisitor : public inp_Visitor {
 
   private:
     cow_List<int> allowedBelow(int key);
-    void push(inp_Keyword const& keyword);
+    void push(inp_Keyword keyword);
     void closeTop();
     cow_String levelsThatAccept(int key);
 

@@ -249,3 +249,37 @@ TEST(RawDataRelease, PackedRowsOutliveTheReleaseOfTheirNeighbours) {
     EXPECT_EQ(copy->AsInt(1301, 2), -1301);
     EXPECT_EQ(copy->AsInt(kRows, 0), 9);
 }
+
+// The first row and its text lie in the array object itself while they fit;
+// every way of leaving that state must keep what the rows say. The sanitizer
+// builds catch the object's own storage handed to the allocator.
+TEST(RawDataFirstRow, RowsReadTheSameWhereverTheirTextLies) {
+    std::string const longLine = "1, " + std::string(40, '7') + ", 3";  // beyond the object's room
+    for (std::string const& first : {std::string("1, 2"), longLine}) {
+        SCOPED_TRACE(first.size());
+        inp_RawDataArrayImpl data;
+        data.Append(first.c_str());
+        std::unique_ptr<inp_DataArrayImpl> const single(data.Copy());
+        for (int i = 1; i < 40; ++i) data.Append((std::to_string(i) + ", x").c_str());
+        EXPECT_EQ(data.AsInt(0, 0), 1);
+        EXPECT_EQ(data.AsStringVerbatim(0, 1),
+                  cow_String(first == longLine ? std::string(40, '7') : "2"));
+        EXPECT_EQ(data.AsInt(39, 0), 39);
+        EXPECT_EQ(single->Rows(), 1);
+        EXPECT_EQ(single->AsInt(0, 0), 1);
+
+        data.Set(0, 1, cow_String("set"));
+        data.ReleaseRows(1, 20);
+        EXPECT_EQ(data.AsStringVerbatim(0, 1), "set");
+        EXPECT_EQ(data.AsInt(20, 0), 20);
+    }
+
+    inp_RawDataArrayImpl released;
+    released.Append("5");
+    released.ReleaseRows(0, 1);
+    released.Append("6, 7");
+    EXPECT_EQ(released.Cols(0), 0);
+    EXPECT_EQ(released.AsInt(1, 1), 7);
+    std::unique_ptr<inp_DataArrayImpl> const copy(released.Copy());
+    EXPECT_EQ(copy->AsInt(1, 0), 6);
+}

@@ -152,6 +152,31 @@ TEST(ParameterNameExpansion, ARepeatedParameterWithoutValueWarnsWithTheNameAsWri
                                        ".  New definition overrides previous setting."});
 }
 
+// A map already in expanded form is kept, shared with any copy taken before;
+// a change anywhere in it gives the keyword a new map and leaves the copy.
+TEST(ParameterNameExpansion, AMapAlreadyExpandedIsKeptAndAChangedOneIsNew) {
+    inp_KeywordExpansionVisitor visitor;
+    inp_Keyword kept = keywordOf(inp_kw_Nset, {{"nset", "TOP"}, {"generate", nullptr}});
+    cow_Map<cow_String, inp_Item> const before = kept.Parameters();
+    visitor.ExpandParameters(kept, kSetWords);
+    EXPECT_TRUE(kept.Parameters().SharesRootWith(before));
+
+    for (Parameters const& written : {Parameters{{"nset", "top"}, {"generate", nullptr}},
+                                      Parameters{{"nset", "TOP"}, {"gen", nullptr}},
+                                      Parameters{{"nset", "TOP"}, {"elset", "e"}}}) {
+        inp_Keyword changed = keywordOf(inp_kw_Nset, written);
+        cow_Map<cow_String, inp_Item> const original = changed.Parameters();
+        visitor.ExpandParameters(changed, kSetWords);
+        EXPECT_FALSE(changed.Parameters().SharesRootWith(original));
+        EXPECT_EQ(valueOf(changed, "nset"), "TOP");
+        EXPECT_EQ(changed.Parameters().Size(), 2);
+        EXPECT_EQ(original.Size(), 2);
+        EXPECT_EQ(original.ConstGet("nset").AsString(), cow_String(written[0].second));
+    }
+    EXPECT_TRUE(visitor.GetErrorList().IsEmpty());
+    EXPECT_TRUE(visitor.GetWarningList().IsEmpty());
+}
+
 TEST(EnumeratedValues, AProperPrefixOfTwoWordsIsAmbiguousWhileAnExactWordAlwaysWins) {
     constexpr char const* exactLast[] = {"ABC", "ABD", "AB", nullptr};
     cow_String word = "untouched";

@@ -209,15 +209,50 @@ TEST_F(ParserParameters, LenientParseKeepsNamesAsWrittenButNotUnclosedQuotes) {
     EXPECT_EQ(r.errors.Length(), 1);
 }
 
+// Names are folded once per way of writing them and the string is shared by
+// every keyword that wrote it so; sharing must never let a change to one
+// keyword show in another.
+TEST_F(ParserParameters, SharedNamesReadAsWrittenAndStayApart) {
+    ParseResult r =
+        parseText("*NSET, NSET=A\n1\n*nset, nset=B\n2\n*N SET, N Set=C\n3\n*NSET, NSET=D\n4\n");
+    ASSERT_EQ(r.keywords.Length(), 4);
+    cow_String names[4];
+    for (int i = 0; i < 4; ++i) {
+        inp_Keyword const& k = r.keywords.ConstGet(i);
+        EXPECT_EQ(k.Keyword(), inp_kw_Nset);
+        ASSERT_EQ(k.Parameters().Size(), 1);
+        cow_ConstMapIterator<cow_String, inp_Item> it(k.Parameters());
+        names[i] = it.CurrentKey();
+        EXPECT_EQ(names[i], "nset");
+    }
+    EXPECT_TRUE(names[0].SharesWith(names[3]));  // written alike
+    EXPECT_EQ(r.keywords.ConstGet(2).GetParameterAsString("nset", ""), "C");
+
+    cow_List<inp_Keyword> keywords = r.keywords;
+    keywords.Get(0).SetParameter("nset", inp_Item("CHANGED"));
+    keywords.Get(0).Data().Set(0, 0, 9);
+    names[0].ToUpper();
+    EXPECT_EQ(keywords.ConstGet(3).GetParameterAsString("nset", ""), "D");
+    EXPECT_EQ(keywords.ConstGet(3).Data().AsInt(0, 0), 4);
+    EXPECT_EQ(names[3], "nset");
+    EXPECT_EQ(r.keywords.ConstGet(3).Print(false), keywords.ConstGet(3).Print(false));
+}
+
 using ParserErrors = ParserTest;
 
 TEST_F(ParserErrors, UnknownAndAmbiguousKeywordsAreErrorsAndParsingGoesOn) {
-    ParseResult r = parseText("*NODE\n1\n*NOSUCH, A=1\n2\n*EL\n*ELG\n1, 2, 3\n");
-    ASSERT_EQ(r.errors.Length(), 2);
+    // Each name is resolved once and remembered: the second of each must
+    // still be refused, and the abbreviation still accepted.
+    ParseResult r =
+        parseText("*NODE\n1\n*NOSUCH, A=1\n2\n*EL\n*ELG\n1, 2, 3\n*NOSUCH\n*EL\n*ELG\n");
+    ASSERT_EQ(r.errors.Length(), 4);
     EXPECT_EQ(r.errors.ConstGet(0),
               "Unknown keyword \"nosuch\". The keyword may be misspelled, obsolete, or invalid.");
     EXPECT_EQ(r.errors.ConstGet(1), "Ambiguous keyword definition \"el\".");
-    ASSERT_EQ(r.keywords.Length(), 2);
+    EXPECT_EQ(r.errors.ConstGet(2), r.errors.ConstGet(0));
+    EXPECT_EQ(r.errors.ConstGet(3), r.errors.ConstGet(1));
+    ASSERT_EQ(r.keywords.Length(), 3);
+    EXPECT_EQ(r.keywords.Last().Keyword(), inp_kw_Elgen);
     EXPECT_EQ(r.keywords.ConstGet(0).Data().Rows(), 1);
     EXPECT_EQ(r.keywords.ConstGet(1).Keyword(), inp_kw_Elgen);
 }
