@@ -1,11 +1,15 @@
 #include "tools/fedeck_Report.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "pipeline/inp_InputFile.h"
 #include "support/aio_Stream.h"
 #include "tools/fedeck_Json.h"
+#include "tools/fedeck_RuleId.h"
 
 namespace {
 
@@ -213,13 +217,47 @@ void fedeck_Report::writeDiagnostic(aio_ostream& out, wip_Diagnostic const& diag
     out.put('\n');
 }
 
+// A kind of message past kShownOfOneKind is held back: a file that is no
+// deck (a binary one gives a warning for every overlong line) would
+// otherwise bury the report. One line per such kind then says how many more
+// there were, after the last one shown.
 void fedeck_Report::WriteDiagnostics(aio_ostream& out, int limit) const {
-    size_t const shown = limit < 0 ? m_diagnostics.size()
-                                   : std::min(m_diagnostics.size(), static_cast<size_t>(limit));
-    for (size_t i = 0; i < shown; ++i) writeDiagnostic(out, m_diagnostics[i]);
-    if (size_t const left = m_diagnostics.size() - shown; left > 0)
-        out.print("fedeck: ") << static_cast<int>(left)
-                              << (left == 1 ? " more diagnostic" : " more diagnostics")
+    struct Kind {
+        size_t seen = 0;
+        size_t lastShown = 0;
+        size_t heldBack = 0;
+    };
+    std::unordered_map<std::string, Kind> kinds;
+    std::vector<Kind const*> kindsHeldBack;  // in the order their last one was shown
+    size_t const allowed = limit < 0 ? m_diagnostics.size() : static_cast<size_t>(limit);
+    size_t shown = 0;
+    size_t beyondLimit = 0;
+    for (size_t i = 0; i < m_diagnostics.size(); ++i) {
+        if (shown == allowed) {
+            ++beyondLimit;
+            continue;
+        }
+        Kind& kind = kinds[fedeck_MessageKind(m_diagnostics[i].text.View())];
+        if (++kind.seen > kShownOfOneKind) {
+            ++kind.heldBack;
+            continue;
+        }
+        writeDiagnostic(out, m_diagnostics[i]);
+        ++shown;
+        if (kind.seen == kShownOfOneKind) {
+            kind.lastShown = i;
+            kindsHeldBack.push_back(&kind);
+        }
+    }
+    for (Kind const* kind : kindsHeldBack) {
+        if (kind->heldBack == 0) continue;
+        out.print("fedeck: ") << static_cast<int>(kind->heldBack) << " more like \"";
+        writePrintable(out, withoutTrailingBreaks(m_diagnostics[kind->lastShown].text.View()));
+        out.print("\" not shown\n");
+    }
+    if (beyondLimit > 0)
+        out.print("fedeck: ") << static_cast<int>(beyondLimit)
+                              << (beyondLimit == 1 ? " more diagnostic" : " more diagnostics")
                               << " not shown\n";
 }
 

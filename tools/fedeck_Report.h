@@ -47,12 +47,16 @@ class fedeck_Report {
     // FILE and LINE are where the diagnostic points; a diagnostic without a
     // line leaves out ":LINE", one without a file names the deck. Later
     // lines of a multi-line text are indented by four blanks.
-    // At most `limit` of them (all for -1), then, if some were left out,
-    // one line: "fedeck: N more diagnostics not shown".
+    // At most `limit` of them (all for -1), and at most kShownOfOneKind of
+    // one kind of message (fedeck_MessageKind); then a line for each kind
+    // held back, "fedeck: N more like "TEXT" not shown" with the text of the
+    // last one shown, and, if the limit left some out, one line:
+    // "fedeck: N more diagnostics not shown".
     // Bytes of a text, file name or deck name that are not printable UTF-8
     // (control characters, invalid sequences) are written as \xNN, so that a
     // binary file given by mistake cannot garble a terminal.
     void WriteDiagnostics(aio_ostream& out, int limit = -1) const;
+    static constexpr size_t kShownOfOneKind = 100;
     // DECK: N keywords, E errors, W warnings[ (stopped after STAGE)]
     void WriteSummary(aio_ostream& out) const;
     // One JSON object on one line:

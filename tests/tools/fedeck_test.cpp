@@ -12,6 +12,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -19,6 +20,7 @@
 #include "fedeck_Version.h"
 #include "pipeline/inp_InputFile.h"
 #include "support/aio_Stream.h"
+#include "tools/fedeck_Report.h"
 
 namespace {
 
@@ -427,6 +429,40 @@ TEST_F(FedeckProgram, UnprintableBytesOfADeckAreEscapedInTextButNotLost) {
     EXPECT_NE(text.out.find("\xce\xb1\xce\xb2"), std::string::npos);
     for (char const c : text.out)
         EXPECT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= 0x20) << text.out;
+}
+
+// Files that are no deck at all get a short report that says what is wrong,
+// however long they are.
+TEST_F(FedeckProgram, FilesThatAreNoDeckGiveAShortReport) {
+    std::mt19937 random(19);
+    std::string binary;
+    for (int k = 0; k < 200000; ++k) binary += static_cast<char>(random() % 256);
+    std::erase(binary, '*');  // no keyword line by chance
+    std::string unknown;
+    for (int k = 0; k < 200000; ++k) unknown += "*FROB" + std::to_string(k % 1000) + "\n1\n";
+    write("stars.inp", "*\n*\n  *\n*,\n");
+    write("empty.inp", "");
+    write("binary.inp", binary);
+    write("unknown.inp", unknown);
+    std::string const noKeyword =
+        ": warning: No keyword line was found in the deck; every line of it was passed over.\n";
+    for (char const* deck : {"stars.inp", "empty.inp", "binary.inp"}) {
+        Outcome const report = run({"check", deck});
+        EXPECT_EQ(report.status, 0) << deck;
+        EXPECT_NE(report.out.find(deck + noKeyword), std::string::npos) << report.out;
+        // Binary bytes make many overlong lines: a hundred warnings of that
+        // kind, then one line for the rest.
+        EXPECT_LE(std::count(report.out.begin(), report.out.end(), '\n'),
+                  static_cast<long>(fedeck_Report::kShownOfOneKind) + 3)
+            << deck;
+    }
+    Outcome const binaryReport = run({"check", "binary.inp"});
+    EXPECT_NE(binaryReport.out.find(" more like \"Line #"), std::string::npos) << binaryReport.out;
+    Outcome const many = run({"check", "unknown.inp"});
+    EXPECT_EQ(many.status, 1);
+    EXPECT_EQ(std::count(many.out.begin(), many.out.end(), '\n'), 28) << many.out;
+    EXPECT_NE(many.out.find("unknown.inp:3: error: Unknown keyword \"frob1\"."), std::string::npos);
+    EXPECT_EQ(many.out.find("passed over"), std::string::npos);
 }
 
 TEST_F(FedeckProgram, MaxDiagnosticsLimitsTheTextButNotTheJson) {
