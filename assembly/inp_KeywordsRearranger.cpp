@@ -9,11 +9,9 @@
 
 namespace {
 
-// Null when the keyword lacks the parameter. Only rigid keywords get here,
-// so making the name each time costs nothing that matters; a shared constant
-// would share its count between the threads that read decks.
+// Null when the keyword lacks the parameter.
 inp_Item const* parameterOf(inp_Keyword const& keyword, char const* name) {
-    return keyword.Parameters().Find(cow_String(name));
+    return keyword.Parameters().Find(name);
 }
 
 void reportSecondKeyword(char const* format, cow_String const& surfaceName) {

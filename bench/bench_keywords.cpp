@@ -15,7 +15,9 @@
 // Counters: MB/s, ms_per_MB, deck_MB, peak_MB (growth of the resident set's
 // high-water mark over one run, in a child process), peak_per_deck, and
 // vs_mesh: ms_per_MB over that of the mesh deck measured first in the same
-// run (the target is the keyword decks within 5 times the mesh deck).
+// run (the target is the keyword decks within 5 times the mesh deck); and
+// the milliseconds of one run spent in parse, expansion, the stages between
+// expansion and organization, organization, and the release of the model.
 
 #include <benchmark/benchmark.h>
 
@@ -43,9 +45,38 @@ struct KeywordDeck {
 // The mesh deck's cost per megabyte, once its benchmark has run.
 std::optional<double> meshMillisecondsPerMegabyte;
 
-void throughOrganize(cow_String const& path) {
-    inp_InputFile input;
-    input.Run(path, inp_Stage::Organize, inp_InputFile::RunRule::RunThrough);
+// Seconds spent in each stage, and in the release of the model at the end.
+struct StageSeconds {
+    double parse = 0, expand = 0, organize = 0, others = 0, release = 0;
+};
+
+void throughOrganize(cow_String const& path, StageSeconds* seconds = nullptr) {
+    using Clock = std::chrono::steady_clock;
+    auto last = Clock::now();
+    auto lap = [&last] {
+        auto const now = Clock::now();
+        double const taken = std::chrono::duration<double>(now - last).count();
+        last = now;
+        return taken;
+    };
+    {
+        inp_InputFile input;
+        input.Run(path, inp_Stage::Organize, inp_InputFile::RunRule::RunThrough,
+                  [&](inp_Stage stage) {
+                      double const taken = lap();
+                      if (!seconds) return;
+                      if (stage == inp_Stage::Parse)
+                          seconds->parse += taken;
+                      else if (stage == inp_Stage::Expand)
+                          seconds->expand += taken;
+                      else if (stage == inp_Stage::Organize)
+                          seconds->organize += taken;
+                      else
+                          seconds->others += taken;
+                  });
+        lap();
+    }
+    if (seconds) seconds->release += lap();
 }
 
 void BM_ThroughOrganize(benchmark::State& state, KeywordDeck* deck, bool isMesh) {
@@ -53,9 +84,10 @@ void BM_ThroughOrganize(benchmark::State& state, KeywordDeck* deck, bool isMesh)
     if (!deck->peakMegabytes)
         deck->peakMegabytes = bench_MeasurePeakGrowth([&] { throughOrganize(path); }) / 1e6;
     std::chrono::duration<double> taken{};
+    StageSeconds stages;
     for (auto _ : state) {
         auto const start = std::chrono::steady_clock::now();
-        throughOrganize(path);
+        throughOrganize(path, &stages);
         taken += std::chrono::steady_clock::now() - start;
         thr_ThreadSingleton<wip_WIP>::Instance().Clear();
     }
@@ -69,6 +101,13 @@ void BM_ThroughOrganize(benchmark::State& state, KeywordDeck* deck, bool isMesh)
     state.counters["peak_per_deck"] = *deck->peakMegabytes / deck->megabytes;
     if (meshMillisecondsPerMegabyte)
         state.counters["vs_mesh"] = millisecondsPerMegabyte / *meshMillisecondsPerMegabyte;
+    // Where the time goes, in ms per run.
+    double const runs = static_cast<double>(state.iterations()) / 1e3;
+    state.counters["parse_ms"] = stages.parse / runs;
+    state.counters["expand_ms"] = stages.expand / runs;
+    state.counters["between_ms"] = stages.others / runs;
+    state.counters["organize_ms"] = stages.organize / runs;
+    state.counters["release_ms"] = stages.release / runs;
 }
 
 int benchSize() {

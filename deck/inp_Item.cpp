@@ -65,7 +65,7 @@ double realOfFortranForm(std::string_view number) {
 
 inp_Item::inp_Item(int value) : m_type(inp_Types::inp_INTEGER), m_int(value) {}
 
-inp_Item::inp_Item(bool flag) : m_type(inp_Types::inp_BOOLEAN), m_bool(flag) {}
+inp_Item::inp_Item(bool flag) : m_type(inp_Types::inp_BOOLEAN), m_int(flag ? 1 : 0) {}
 
 inp_Item::inp_Item(double value) : m_type(inp_Types::inp_REAL), m_double(value) {}
 
@@ -124,7 +124,7 @@ double inp_Item::AsDouble() const {
 bool inp_Item::AsBool() const {
     switch (m_type) {
         case inp_Types::inp_BOOLEAN:
-            return m_bool;
+            return m_int != 0;
         case inp_Types::inp_INTEGER:
             return m_int != 0;
         case inp_Types::inp_REAL:
@@ -140,7 +140,7 @@ bool inp_Item::AsBool() const {
 cow_String inp_Item::AsString() const {
     switch (m_type) {
         case inp_Types::inp_BOOLEAN:
-            return m_bool ? "TRUE" : "FALSE";
+            return m_int != 0 ? "TRUE" : "FALSE";
         case inp_Types::inp_INTEGER:
             return cow_String::FromInt(m_int);
         case inp_Types::inp_REAL:

@@ -46,8 +46,7 @@ class inp_Item {
     [[noreturn]] void throwConversion(char const* format) const;
 
     inp_Types::typeEnm m_type = inp_Types::inp_NONE;
-    std::int32_t m_int = 0;
-    bool m_bool = false;
+    std::int32_t m_int = 0;  // the integer, or 1 and 0 for a flag
     double m_double = 0.0;
     cow_String m_string;
 };

@@ -20,21 +20,18 @@ cow_String inp_Keyword::Name() const {
     return inp_KeywordTable::Instance().Name(m_keyword);
 }
 
-int inp_Keyword::GetParameterAsInt(cow_String const& name, int fallback) const {
-    inp_Item const* item = m_parameters.Find(name);
+int inp_Keyword::intOf(inp_Item const* item, int fallback) {
     return item && item->Type() == inp_Types::inp_INTEGER ? item->AsInt() : fallback;
 }
 
-double inp_Keyword::GetParameterAsDouble(cow_String const& name, double fallback) const {
-    inp_Item const* item = m_parameters.Find(name);
+double inp_Keyword::doubleOf(inp_Item const* item, double fallback) {
     if (!item) return fallback;
     if (item->Type() == inp_Types::inp_REAL || item->Type() == inp_Types::inp_INTEGER)
         return item->AsDouble();
     return fallback;
 }
 
-cow_String inp_Keyword::GetParameterAsString(cow_String const& name, cow_String fallback) const {
-    inp_Item const* item = m_parameters.Find(name);
+cow_String inp_Keyword::stringOf(inp_Item const* item, cow_String fallback) {
     return item && item->Type() == inp_Types::inp_STRING ? item->AsString() : fallback;
 }
 

@@ -7,6 +7,8 @@
 // or Append on one copy's data shows in the other. DeepCopy makes the data
 // independent.
 
+#include <utility>
+
 #include "deck/inp_DataArray.h"
 #include "deck/inp_Item.h"
 #include "deck/inp_keywords.h"
@@ -47,13 +49,31 @@ class inp_Keyword {
         m_parameters.Insert(name, value);
     }
     bool RemoveParameter(cow_String const& name) { return m_parameters.Remove(name); }
+    // The reads take a name as a string or as a literal; a literal is looked
+    // up as it stands, without a string made of it.
     bool HasParameter(cow_String const& name) const { return m_parameters.IsMember(name); }
+    bool HasParameter(char const* name) const { return m_parameters.IsMember(name); }
     // `fallback` unless the parameter exists with an integer item.
-    int GetParameterAsInt(cow_String const& name, int fallback) const;
+    int GetParameterAsInt(cow_String const& name, int fallback) const {
+        return intOf(m_parameters.Find(name), fallback);
+    }
+    int GetParameterAsInt(char const* name, int fallback) const {
+        return intOf(m_parameters.Find(name), fallback);
+    }
     // `fallback` unless the parameter exists with a double or integer item.
-    double GetParameterAsDouble(cow_String const& name, double fallback) const;
+    double GetParameterAsDouble(cow_String const& name, double fallback) const {
+        return doubleOf(m_parameters.Find(name), fallback);
+    }
+    double GetParameterAsDouble(char const* name, double fallback) const {
+        return doubleOf(m_parameters.Find(name), fallback);
+    }
     // `fallback` unless the parameter exists with a string item.
-    cow_String GetParameterAsString(cow_String const& name, cow_String fallback) const;
+    cow_String GetParameterAsString(cow_String const& name, cow_String fallback) const {
+        return stringOf(m_parameters.Find(name), std::move(fallback));
+    }
+    cow_String GetParameterAsString(char const* name, cow_String fallback) const {
+        return stringOf(m_parameters.Find(name), std::move(fallback));
+    }
 
     inp_DataArray const& Data() const { return m_data; }
     inp_DataArray& Data() { return m_data; }
@@ -93,6 +113,9 @@ class inp_Keyword {
     cow_String Print(bool withSuboptions) const;
 
   private:
+    static int intOf(inp_Item const* item, int fallback);
+    static double doubleOf(inp_Item const* item, double fallback);
+    static cow_String stringOf(inp_Item const* item, cow_String fallback);
     void printDataRows(eli_eostream& out) const;
     void printDebug(cow_String& out, bool withSuboptions) const;
     bool quotesItemsWithBlanks() const;
@@ -105,6 +128,7 @@ class inp_Keyword {
     cow_String m_fileName;
     int m_lineNumber = 0;
     bool m_encrypted = false;
+    bool m_fromScripting =
+        false;  // beside the other small fields: a deck holds millions of records
     cow_List<cow_String> m_comments;
-    bool m_fromScripting = false;
 };

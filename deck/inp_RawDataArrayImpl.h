@@ -58,7 +58,7 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
     // The largest text block rows are packed into.
     static constexpr size_t kMaxBlockSize = size_t{256} << 10;
     // The first text block lies in the object when its first row fits here.
-    static constexpr size_t kInlineText = 32;
+    static constexpr size_t kInlineText = 24;
 
   private:
     // A block of packed row text: rows [firstRow, next block's firstRow).
@@ -90,19 +90,21 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
     void checkRow(int i) const;
     void checkItem(int i, int j) const;
 
-    int nrows = 0;              // rows in use
-    int allocatedSize = 1;      // rows allocated
+    // Counts first and the first row's tables last, packed so that an array
+    // of one short row fits a small allocation.
+    int nrows = 0;          // rows in use
+    int allocatedSize = 1;  // rows allocated
+    int nblocks = 0;
+    int allocatedBlocks = 1;
+    int nownRows = 0;
     char** rows = firstRow;     // each row's text: in a text block, or a block of its own
     int* ncols = firstColumns;  // items per row
     TextBlock* blocks = firstBlock;
-    int nblocks = 0;
-    int allocatedBlocks = 1;
     // The rows rewritten by Set(), ascending: each has a block of its own.
     int* ownRows = nullptr;
-    int nownRows = 0;
     // The tables' first entries, until a second row or block moves them out.
     char* firstRow[1] = {};
-    int firstColumns[1] = {};
     TextBlock firstBlock[1] = {};
+    int firstColumns[1] = {};
     char inlineText[kInlineText] = {};
 };

@@ -31,10 +31,13 @@ bool isLineBlank(char c) {
 }
 
 // Whether the line holds the marker of an encrypted file. Data lines seldom
-// hold an asterisk at all, so that is looked for first.
+// hold an asterisk at all, and keyword lines one that no second follows, so
+// the marker is looked for only where two asterisks stand together.
 bool hasEncryptionMarker(char const* line) {
-    char const* star = std::strchr(line, '*');
-    return star && std::strstr(star, "** encrypted input");
+    constexpr char kMarker[] = "** encrypted input";
+    for (char const* star = std::strchr(line, '*'); star; star = std::strchr(star + 1, '*'))
+        if (star[1] == '*' && std::strncmp(star, kMarker, sizeof kMarker - 1) == 0) return true;
+    return false;
 }
 
 std::string_view trimmedOf(std::string_view text) {

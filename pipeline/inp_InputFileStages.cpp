@@ -80,7 +80,7 @@ void inp_InputFile::Reorganize() {
     timer.Start();
 
     inp_OrganizerVisitor organizer(m_partsAndAssembly);
-    organizer.VisitListAndReport(m_keywords);
+    organizer.OrganizeAndReport(std::move(m_keywords));
     m_keywords = organizer.Keywords();
     if (m_options.discardBlankedKeywords) DiscardEmptyKeywords();
     inp_PrintStageTime("Reorganize - Elapsed time: ", timer);

@@ -111,6 +111,15 @@ void inp_OrganizerVisitor::DefaultAction(inp_Keyword& keyword) {
     }
 }
 
+void inp_OrganizerVisitor::OrganizeAndReport(cow_List<inp_Keyword>&& keywords) {
+    cow_List<inp_Keyword> flat = std::move(keywords);
+    while (!flat.IsEmpty()) {
+        Visit(flat.Get(0));
+        flat.RemoveIndex(0);
+    }
+    Report();
+}
+
 // Scope as the base keeps it, but a step without a name is not this stage's
 // fault to find.
 void inp_OrganizerVisitor::VisitStep(inp_Keyword& keyword) {

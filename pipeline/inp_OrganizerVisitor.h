@@ -11,10 +11,11 @@
 // their own end keyword. From the first *STEP on, the top level holds nothing
 // but steps.
 //
-// Use: construct, VisitListAndReport over the flat list, then Keywords() once.
-// The walk takes the keywords it places out of the flat list, leaving empty
-// records behind (a keyword with suboptions is copied instead): the flat list
-// is meant to be replaced by what Keywords() returns.
+// Use: construct, OrganizeAndReport (or VisitListAndReport) over the flat
+// list, then Keywords() once. The walk takes the keywords it places out of
+// the flat list, leaving empty records behind (a keyword with suboptions is
+// copied instead): the flat list is meant to be replaced by what Keywords()
+// returns.
 
 #include "deck/inp_Keyword.h"
 #include "pipeline/inp_Visitor.h"
@@ -27,6 +28,11 @@ class inp_OrganizerVisitor : public inp_Visitor {
     // `enhanced`: the deck is built of parts and an assembly. A flat deck's
     // top level takes what a part, an instance or an assembly would hold.
     explicit inp_OrganizerVisitor(bool enhanced);
+
+    // Walks `keywords`, taken over, and reports: each record leaves the flat
+    // list as soon as it is placed, so that the flat list's memory comes free
+    // while the tree grows instead of after.
+    void OrganizeAndReport(cow_List<inp_Keyword>&& keywords);
 
     void DefaultAction(inp_Keyword& keyword) override;
     void VisitStep(inp_Keyword& keyword) override;

@@ -50,12 +50,12 @@ static_assert(kSlotCount == inp_keywordCount - 4 + 1,
               "inp_VisitorSlots.h and inp_keywords.h disagree on the keyword handlers");
 
 bool hasParameter(inp_Keyword const& keyword, char const* name) {
-    return keyword.HasParameter(cow_String(name));
+    return keyword.HasParameter(name);
 }
 
 // Takes the text of the keyword's parameter into `field` if it has it.
 bool takeParameter(inp_Keyword const& keyword, char const* name, cow_String& field) {
-    inp_Item const* value = keyword.Parameters().Find(cow_String(name));
+    inp_Item const* value = keyword.Parameters().Find(name);
     if (!value) return false;
     field = value->AsString();
     return true;

@@ -2,12 +2,15 @@
 #include <algorithm>
 #include <initializer_list>
 #include <iterator>
+#include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 #include "support/ZELBasAssert.h"
 #include "support/cow_SharedNodes.h"
 
+class cow_String;
 template <class K, class V>
 class cow_ConstMapIterator;
 template <class K, class V>
@@ -86,7 +89,29 @@ class cow_Map {
         }
         return nullptr;
     }
+    // Lookup by the text of a string key without making a string of it: the
+    // maps of names are mostly asked with literals.
+    V const* Find(std::string_view key) const requires std::is_same_v<K, cow_String> {
+        Node const* node = m_root;
+        while (node) {
+            int const order = key.compare(node->key.View());
+            if (order < 0) {
+                node = node->left;
+            } else if (order > 0) {
+                node = node->right;
+            } else {
+                return &node->value;
+            }
+        }
+        return nullptr;
+    }
+    V const* Find(char const* key) const requires std::is_same_v<K, cow_String> {
+        return Find(std::string_view(key));
+    }
     bool IsMember(K const& key) const { return Find(key) != nullptr; }
+    bool IsMember(char const* key) const requires std::is_same_v<K, cow_String> {
+        return Find(std::string_view(key)) != nullptr;
+    }
     // True if the key was there. A missing key copies nothing.
     bool Remove(K const& key) {
         if (!IsMember(key)) return false;
