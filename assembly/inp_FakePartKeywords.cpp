@@ -447,8 +447,7 @@ void inp_FakePartVisitor::InsertBeforeEndOfPart(cow_List<inp_Keyword>& result,
         if (keyword.Is(inp_kw_Part))
             inPart = keyword.GetParameterAsString("name", cow_String()) == part;
         if (inPart && keyword.Is(inp_kw_EndPart)) {
-            for (int k = 0; k < keywords.Length(); ++k)
-                result.InsertIndex(i + k, keywords.ConstGet(k));
+            result.InsertList(i, keywords);
             return;
         }
     }

@@ -17,6 +17,14 @@ cow_String const& fake() {
     return name;
 }
 
+// The set keywords' parameter names, one string shared by every keyword
+// made on this thread.
+cow_String const& setWord(bool node) {
+    static thread_local cow_String const nset("nset");
+    static thread_local cow_String const elset("elset");
+    return node ? nset : elset;
+}
+
 cow_String instanceOf(cow_String const& part) {
     cow_String instance(part);
     instance.append("-1");
@@ -286,9 +294,7 @@ void inp_FakePartSetAssignVisitor::InsertPartSets(cow_List<inp_Keyword>& list,
                                                   cow_List<cow_String> const& names) const {
     int const position = GetInsertPosition(list, part);
     if (position < 0) return;
-    cow_List<inp_Keyword> const keywords = CreatePartSets(kind, part, names);
-    for (int k = 0; k < keywords.Length(); ++k)
-        list.InsertIndex(position + k, keywords.ConstGet(k));
+    list.InsertList(position, CreatePartSets(kind, part, names));
 }
 
 cow_List<inp_Keyword> inp_FakePartSetAssignVisitor::CreatePartSets(
@@ -296,10 +302,9 @@ cow_List<inp_Keyword> inp_FakePartSetAssignVisitor::CreatePartSets(
     cow_List<inp_Keyword> keywords;
     inpM_SetMap const& sets = FakeSets(kind);
     for (cow_String const& name : names) {
-        if (!sets.HasNestedSet(fake(), name)) continue;
-        inpM_BaseSet const& set = *sets.ConstGetNestedSet(fake(), name);
-        if (set.IsEmpty()) continue;
-        keywords.Append(CreateSetKeyword(kind, false, name, set));
+        inpM_SetHandle const* const set = sets.FindNestedSet(fake(), name);
+        if (!set || (*set)->IsEmpty()) continue;
+        keywords.Append(CreateSetKeyword(kind, false, name, **set));
     }
     return keywords;
 }
@@ -343,7 +348,7 @@ void inp_FakePartSetAssignVisitor::InsertAssemblySets(cow_List<inp_Keyword>& lis
     cow_List<inp_Keyword> const keywords = CreateAssemblySets(kind);
     for (int i = 0; i < list.Length(); ++i) {
         if (!list.ConstGet(i).Is(inp_kw_EndAssembly)) continue;
-        for (int k = 0; k < keywords.Length(); ++k) list.InsertIndex(i + k, keywords.ConstGet(k));
+        list.InsertList(i, keywords);
         return;
     }
 }
@@ -367,8 +372,8 @@ inp_Keyword inp_FakePartSetAssignVisitor::CreateSetKeyword(inp_ReferenceKind kin
                                                            cow_String const& name,
                                                            inpM_BaseSet const& set) const {
     bool const node = kind == inp_ReferenceKind::Node;
-    inp_Keyword keyword{cow_String(node ? "nset" : "elset")};
-    keyword.SetParameter(node ? "nset" : "elset", inp_Item(name));
+    inp_Keyword keyword(node ? inp_kw_Nset : inp_kw_Elset);
+    keyword.SetParameter(setWord(node), inp_Item(name));
     if (node && set.IsUnsorted()) keyword.SetParameter("unsorted", inp_Item(true));
     if (set.IsInternal()) keyword.SetParameter("internal", inp_Item(true));
     cow_List<int> const ids = set.ConstGetIdList();
@@ -436,7 +441,7 @@ void inp_FakePartSetAssignVisitor::RearrangeNsetKeywords(cow_List<inp_Keyword>& 
     groups.ForEachSorted([&](cow_String const& part, cow_List<inp_Keyword> const& group) {
         int const position = GetInsertPosition(kept, part);
         if (position < 0) return;
-        for (int k = 0; k < group.Length(); ++k) kept.InsertIndex(position + k, group.ConstGet(k));
+        kept.InsertList(position, group);
     });
     list = kept;
 }

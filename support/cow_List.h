@@ -146,6 +146,22 @@ class cow_List {
             rotateRight(i, m_length);
         }
     }
+    // Inserts the elements of `other` before index i (i == Length() appends),
+    // in their order, in one pass: every element moves at most once, where
+    // inserting them one by one would move the elements after i once per
+    // element inserted.
+    void InsertList(int i, cow_List const& other) {
+        if (i < 0 || i > m_length) RaiseOutOfRange(i, m_length);
+        if (other.IsEmpty()) return;
+        // A counted copy: other may be this list.
+        cow_List const source(other);  // NOLINT(performance-unnecessary-copy-initialization)
+        cow_List merged;
+        merged.Reserve(m_length + source.m_length);
+        for (int k = 0; k < i; ++k) merged.pushBack(at(k));
+        for (T const& value : source) merged.pushBack(value);
+        for (int k = i; k < m_length; ++k) merged.pushBack(at(k));
+        swap(merged);
+    }
     // Removes index i. Moves the shorter side.
     void RemoveIndex(int i) {
         checkIndex(i);

@@ -372,10 +372,20 @@ class cow_ConstMapSortedIt {
     static bool AscSortCmp(K const& a, K const& b) { return a < b; }
     static bool DescSortCmp(K const& a, K const& b) { return b < a; }
 
-    // `cmp(a, b)` tells whether key a comes before key b.
+    // `cmp(a, b)` tells whether key a comes before key b. The map's own
+    // order, ascending or descending, is read off the tree as it stands; any
+    // other is sorted.
     template <class Cmp>
     cow_ConstMapSortedIt(cow_Map<K, V> const& map, Cmp cmp) : m_map(map) {
         m_nodes.reserve(static_cast<size_t>(m_map.Size()));
+        if constexpr (std::is_convertible_v<Cmp, bool (*)(K const&, K const&)>) {
+            bool (*const order)(K const&, K const&) = cmp;
+            if (order == &AscSortCmp || order == &DescSortCmp) {
+                collectAscending();
+                if (order == &DescSortCmp) std::reverse(m_nodes.begin(), m_nodes.end());
+                return;
+            }
+        }
         Map::collect(m_map.m_root, m_nodes);
         std::sort(m_nodes.begin(), m_nodes.end(),
                   [&cmp](Node const* a, Node const* b) { return cmp(a->key, b->key); });
@@ -392,6 +402,18 @@ class cow_ConstMapSortedIt {
   private:
     using Map = cow_Map<K, V>;
     using Node = typename Map::Node;
+    // In-order walk of the tree: its keys ascend.
+    void collectAscending() {
+        std::vector<Node const*> path;
+        Node const* node = m_map.m_root;
+        while (node || !path.empty()) {
+            for (; node; node = node->left) path.push_back(node);
+            node = path.back();
+            path.pop_back();
+            m_nodes.push_back(node);
+            node = node->right;
+        }
+    }
     Node const* current() const {
         ZELBAS_ASSERT_TEXT(NotDone(), "map iterator is done");
         return m_nodes[m_index];

@@ -13,8 +13,13 @@ cow_List<cow_String> inpM_SetMap::Instances() const {
 }
 
 bool inpM_SetMap::HasNestedSet(cow_String const& instance, cow_String const& name) const {
+    return FindNestedSet(instance, name) != nullptr;
+}
+
+inpM_SetHandle const* inpM_SetMap::FindNestedSet(cow_String const& instance,
+                                                 cow_String const& name) const {
     inpM_SetMap const* nested = m_instances.Find(instance);
-    return nested != nullptr && nested->HasSet(name);
+    return nested ? nested->m_sets.Find(name) : nullptr;
 }
 
 inpM_SetMap& inpM_SetMap::instanceForWriting(cow_String const& instance) {

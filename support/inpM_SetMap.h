@@ -42,6 +42,8 @@ class inpM_SetMap {
     }
     // False, not a fault, for an unknown instance.
     bool HasNestedSet(cow_String const& instance, cow_String const& name) const;
+    // The set of the instance, or null where the instance or the set is missing.
+    inpM_SetHandle const* FindNestedSet(cow_String const& instance, cow_String const& name) const;
     // The instance and the set must exist.
     inpM_SetHandle const& ConstGetNestedSet(cow_String const& instance,
                                             cow_String const& name) const {

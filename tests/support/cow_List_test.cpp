@@ -151,6 +151,28 @@ TEST(CowListIndexing, InsertingAnElementOfTheListItself) {
     EXPECT_EQ(list, (cow_List<std::string>{"a", "c", "b", "c", "a"}));
 }
 
+// A list inserted in one pass lands where the same elements inserted one by
+// one would, a copy taken before stays as it was, and inserting a list into
+// itself takes its old elements.
+TEST(CowListIndexing, InsertingAListEqualsInsertingItsElementsInTurn) {
+    cow_List<int> const inserted = countingList(40);
+    for (int index : {0, 1, 16, 33, 64}) {
+        cow_List<int> list = countingList(64);
+        cow_List<int> const before = list;
+        cow_List<int> oneByOne = list;
+        for (int k = 0; k < inserted.Length(); ++k) oneByOne.InsertIndex(index + k, inserted[k]);
+        list.InsertList(index, inserted);
+        EXPECT_EQ(contents(list), contents(oneByOne)) << "insert at " << index;
+        EXPECT_EQ(contents(before), contents(countingList(64)));
+    }
+    cow_List<int> self = countingList(3);
+    self.InsertList(1, self);
+    EXPECT_EQ(contents(self), (std::vector<int>{0, 0, 1, 2, 1, 2}));
+    self.InsertList(2, cow_List<int>());
+    EXPECT_EQ(self.Length(), 6);
+    expectOutOfRange([&] { self.InsertList(7, inserted); });
+}
+
 TEST(CowListIndexing, OutOfRangeRaises) {
     cow_List<int> list = countingList(3);
     cow_List<int> empty;
