@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "deck/inp_Exceptions.h"
 
@@ -54,6 +57,39 @@ TEST(KeywordTableAbbreviation, UnknownAndAmbiguousNamesThrowOrGiveZero) {
         FAIL();
     } catch (inp_AmbiguousKeywordException const& e) {
         EXPECT_EQ(e.UserReport(), "Ambiguous keyword definition \"el\".");
+    }
+}
+
+// The search of the sorted names against a scan of every name, for every
+// prefix of every name and a few texts that are none: the count of names a
+// text abbreviates (an exact name counting as one) and the keyword it gives.
+TEST(KeywordTableAbbreviation, MatchAgreesWithAScanOfEveryName) {
+    std::set<int> keys = asSet(table().AllKeywords());
+    keys.insert(inp_kw_UndefinedKeyword);  // its row has a name too
+    std::vector<std::string> names;
+    for (int key : keys) names.emplace_back(table().Name(static_cast<inp_KeywordEnm>(key)).View());
+    std::set<std::string> probes{"", "zzz", "nodez", "~", "*node"};
+    for (std::string const& name : names)
+        for (size_t length = 1; length <= name.size(); ++length)
+            probes.insert(name.substr(0, length));
+    for (std::string const& probe : probes) {
+        int expected = 0;
+        inp_KeywordEnm only = inp_kw_UndefinedKeyword;
+        for (std::string const& name : names) {
+            if (name == probe) {
+                expected = 1;
+                only = table().Enum(cow_String(name.c_str()));
+                break;
+            }
+            if (name.starts_with(probe)) {
+                ++expected;
+                only = table().Enum(cow_String(name.c_str()));
+            }
+        }
+        inp_KeywordEnm found = inp_kw_Node;
+        int const matches = table().Match(probe, found);
+        EXPECT_EQ(std::min(matches, 2), std::min(expected, 2)) << probe;
+        EXPECT_EQ(found, expected == 1 ? only : inp_kw_UndefinedKeyword) << probe;
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "deck/inp_RawDataArrayImpl.h"
 #include "support/aio_Stream.h"
 
 namespace {
@@ -65,6 +66,33 @@ TEST(KeywordCopy, CopiesShareDataButNotParametersOrSuboptions) {
     EXPECT_EQ(original.GetParameterAsString("nset", ""), "TOP");
     EXPECT_EQ(original.Suboptions().Length(), 1);
     EXPECT_EQ(original.Level(), 0);
+}
+
+// The data array counts its handles itself: the last one to go deletes it,
+// a handle given a new array leaves the others the old one, and a record
+// moved from reads as one without data.
+TEST(KeywordCopy, DataHandlesCountTheirArrayAndAMovedRecordIsEmpty) {
+    inp_Keyword original(inp_kw_Nset);
+    original.Data().Append("1");
+    {
+        inp_Keyword const copy = original;
+        EXPECT_EQ(original.Data().UseCount(), 2);
+        EXPECT_TRUE(copy.Data().SharesWith(original.Data()));
+    }
+    EXPECT_EQ(original.Data().UseCount(), 1);
+    inp_Keyword other = original;
+    other.Data().Set(new inp_RawDataArrayImpl());
+    other.Data().Append("2, 3");
+    EXPECT_EQ(original.Data().Rows(), 1);
+    EXPECT_EQ(original.Data().UseCount(), 1);
+    EXPECT_EQ(other.Data().Cols(0), 2);
+
+    inp_Keyword moved = std::move(original);
+    EXPECT_EQ(moved.Data().AsInt(0, 0), 1);
+    EXPECT_EQ(original.Data().Rows(),
+              0);  // NOLINT(bugprone-use-after-move): the moved-from state is the point
+    original = other;
+    EXPECT_EQ(original.Data().Cols(0), 2);
 }
 
 TEST(KeywordCopy, DeepCopySeparatesDataRecursivelyAndDropsComments) {

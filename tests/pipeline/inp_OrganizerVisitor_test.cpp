@@ -8,7 +8,9 @@
 
 #include "support/aio_Stream.h"
 #include "support/pnt_PrettyPrint.h"
+#include "support/thr_Singleton.h"
 #include "support/typ_DebugFlags.h"
+#include "support/wip_WIP.h"
 
 namespace {
 
@@ -55,11 +57,18 @@ struct Organized {
     cow_List<inp_Keyword> keywords;
 };
 
+// The stage hands the organizer its list to consume; a walk of a list the
+// caller keeps must build the same tree.
 Organized organize(bool enhanced, cow_List<inp_Keyword> flat) {
+    inp_OrganizerVisitor consuming(enhanced);
+    consuming.OrganizeAndReport(cow_List<inp_Keyword>(flat));
+    thr_ThreadSingleton<wip_WIP>::Instance().Clear();
     inp_OrganizerVisitor organizer(enhanced);
     organizer.VisitList(flat);
     Organized result{"", {}, organizer.Keywords()};
     result.tree = shape(result.keywords);
+    EXPECT_EQ(shape(consuming.Keywords()), result.tree);
+    EXPECT_EQ(consuming.GetFatalErrorList().Length(), organizer.GetFatalErrorList().Length());
     for (auto const* list :
          {&organizer.GetWarningList(), &organizer.GetErrorList(), &organizer.GetFatalErrorList()})
         for (atr_String const& text : *list) result.errors.emplace_back(text.View());
@@ -180,10 +189,15 @@ TEST(OrganizerMisplaced, EachBarredLevelOpensOnlyToItsOwnEnd) {
 TEST(OrganizerDebug, LevelOnePrintsEachPushAndEachPopWithTheIncomingName) {
     aio_ostringstream printed;
     pnt_debugPrint().SetStream(&printed);
+    auto organizeOnce = [](cow_List<inp_Keyword> flat) {
+        inp_OrganizerVisitor organizer(false);
+        organizer.VisitList(flat);
+        organizer.Keywords();
+    };
     typ_DebugFlags::SetDebugFlags(typ_DebugFlags::kDeckFlag, 1);
-    organize(false, deck({inp_kw_Material, inp_kw_Elastic, inp_kw_Step}));
+    organizeOnce(deck({inp_kw_Material, inp_kw_Elastic, inp_kw_Step}));
     typ_DebugFlags::SetDebugFlags(typ_DebugFlags::kDeckFlag, 0);
-    organize(false, deck({inp_kw_Heading}));
+    organizeOnce(deck({inp_kw_Heading}));
     pnt_debugPrint().SetStream(nullptr);
 
     std::string moves;

@@ -4,6 +4,8 @@
 
 #include <map>
 #include <random>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -95,6 +97,27 @@ TEST(CowMapEntries, StringKeysCompareBytewise) {
     EXPECT_EQ(map.ConstGet("alpha"), 3);
 }
 
+// A lookup by a literal or a view finds what a lookup by a string finds, in a
+// tree deep enough to take every turn; a key that is a prefix of another, or
+// has one, is no match.
+TEST(CowMapEntries, LookupsByTextAgreeWithLookupsByString) {
+    cow_Map<cow_String, int> map;
+    std::vector<std::string> names;
+    for (int i = 0; i < 500; ++i) names.push_back("n" + std::to_string(i * 7919 % 1000));
+    for (int i = 0; i < 500; ++i) map.Insert(cow_String(names[i].c_str()), i);
+    for (int probe = 0; probe < 1000; ++probe) {
+        std::string const name = "n" + std::to_string(probe);
+        int const* byString = map.Find(cow_String(name.c_str()));
+        EXPECT_EQ(map.Find(std::string_view(name)), byString) << name;
+        EXPECT_EQ(map.Find(name.c_str()), byString) << name;
+        EXPECT_EQ(map.IsMember(name.c_str()), byString != nullptr) << name;
+    }
+    EXPECT_EQ(map.Find("n"), nullptr);
+    EXPECT_EQ(map.Find("n10000"), nullptr);
+    EXPECT_EQ(map.Find(""), nullptr);
+    EXPECT_EQ((cow_Map<cow_String, int>().Find("n1")), nullptr);
+}
+
 TEST(CowMapSharing, WriteThroughCopyCopiesOnlyThePath) {
     IntMap original = ascending(1000);
     IntMap copy(original);
@@ -147,6 +170,12 @@ TEST(CowMapIteration, PreOrderFollowsTheShapeAndSortedFollowsTheKeys) {
     EXPECT_EQ(keysOf(SortedIt(map, SortedIt::AscSortCmp)), (std::vector<int>{1, 2, 3, 4, 5, 6, 7}));
     EXPECT_EQ(keysOf(SortedIt(map, SortedIt::DescSortCmp)),
               (std::vector<int>{7, 6, 5, 4, 3, 2, 1}));
+    // Any other order is sorted for.
+    auto byRemainderThenKey = [](int const& a, int const& b) {
+        return a % 3 != b % 3 ? a % 3 < b % 3 : a < b;
+    };
+    EXPECT_EQ(keysOf(SortedIt(map, byRemainderThenKey)), (std::vector<int>{3, 6, 1, 4, 7, 2, 5}));
+    EXPECT_TRUE(keysOf(SortedIt(IntMap(), SortedIt::DescSortCmp)).empty());
     EXPECT_TRUE(preOrder(IntMap()).empty());
 }
 
