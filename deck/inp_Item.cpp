@@ -123,8 +123,7 @@ double inp_Item::AsDouble() const {
 
 bool inp_Item::AsBool() const {
     switch (m_type) {
-        case inp_Types::inp_BOOLEAN:
-            return m_int != 0;
+        case inp_Types::inp_BOOLEAN:  // the flag is kept as 1 or 0
         case inp_Types::inp_INTEGER:
             return m_int != 0;
         case inp_Types::inp_REAL:

@@ -276,7 +276,7 @@ inp_NodeDataArrayImpl::inp_NodeDataArrayImpl(int size) {
 }
 
 inp_NodeDataArrayImpl::inp_NodeDataArrayImpl(inp_NodeDataArrayImpl const& other)
-    : inp_DataArrayImpl() {
+    : inp_DataArrayImpl(other) {
     allocate(other.allocatedSize, false, other.width);
     nrows = other.nrows;
     size_t size = static_cast<size_t>(allocatedSize);

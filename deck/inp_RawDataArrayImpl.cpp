@@ -53,7 +53,7 @@ inp_RawDataArrayImpl::inp_RawDataArrayImpl() = default;
 
 // The copy packs every row that is left into one text block of its own.
 inp_RawDataArrayImpl::inp_RawDataArrayImpl(inp_RawDataArrayImpl const& other)
-    : inp_DataArrayImpl() {
+    : inp_DataArrayImpl(other) {
     if (other.nrows == 0) return;
     size_t total = 0;
     int live = 0;
