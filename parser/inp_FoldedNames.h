@@ -15,6 +15,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "parser/inp_TextHash.h"
 #include "support/cow_String.h"
 
 class inp_FoldedNames {
@@ -25,13 +26,7 @@ class inp_FoldedNames {
     cow_String Fold(std::string_view written);
 
   private:
-    struct ViewHash {
-        using is_transparent = void;
-        size_t operator()(std::string_view text) const noexcept {
-            return std::hash<std::string_view>()(text);
-        }
-    };
-    std::unordered_map<std::string, cow_String, ViewHash, std::equal_to<>> m_names;
+    std::unordered_map<std::string, cow_String, inp_TextHash, std::equal_to<>> m_names;
 };
 
 // Lower case, every blank and tab removed: how keyword and parameter names compare.

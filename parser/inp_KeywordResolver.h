@@ -15,6 +15,7 @@
 #include <unordered_map>
 
 #include "deck/inp_keywords.h"
+#include "parser/inp_TextHash.h"
 #include "support/cow_String.h"
 
 class inp_KeywordResolver {
@@ -31,12 +32,6 @@ class inp_KeywordResolver {
     Result const& Resolve(std::string_view written);
 
   private:
-    struct ViewHash {
-        using is_transparent = void;
-        size_t operator()(std::string_view text) const noexcept {
-            return std::hash<std::string_view>()(text);
-        }
-    };
-    std::unordered_map<std::string, Result, ViewHash, std::equal_to<>> m_known;
+    std::unordered_map<std::string, Result, inp_TextHash, std::equal_to<>> m_known;
     Result m_unremembered;
 };
