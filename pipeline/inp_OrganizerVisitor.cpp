@@ -22,15 +22,13 @@ void appendSuboptions(int key, std::vector<int>& keys) {
     keys.insert(keys.end(), suboptions.begin(), suboptions.end());
 }
 
-cow_List<int> ascendingUnique(std::vector<int>& keys) {
+std::vector<int> ascendingUnique(std::vector<int>& keys) {
     std::sort(keys.begin(), keys.end());
     keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
-    cow_List<int> list;
-    list.SetFromArray(keys.data(), static_cast<int>(keys.size()));
-    return list;
+    return std::move(keys);
 }
 
-cow_List<int> rootLevelKeys(bool enhanced) {
+std::vector<int> rootLevelKeys(bool enhanced) {
     std::vector<int> keys;
     if (enhanced) {
         appendSuboptions(inp_kw_Model, keys);
@@ -49,19 +47,8 @@ void printMove(char const* move, inp_Keyword const& keyword) {
 
 // The lists are ascending: a deck of millions of keywords asks this once
 // for each keyword and each level it climbs.
-bool accepts(cow_List<int> const& allowed, int key) {
-    int low = 0;
-    int high = allowed.Length();
-    while (low < high) {
-        int const middle = low + (high - low) / 2;
-        int const candidate = allowed.ConstGet(middle);
-        if (candidate == key) return true;
-        if (candidate < key)
-            low = middle + 1;
-        else
-            high = middle;
-    }
-    return false;
+bool accepts(std::vector<int> const& allowed, int key) {
+    return std::binary_search(allowed.begin(), allowed.end(), key);
 }
 
 // The levels that only their own end keyword closes (see CanPopKeyword).
@@ -78,9 +65,10 @@ void setParentKey(inp_Keyword& keyword, int parentKey) {
 
 }  // namespace
 
-inp_OrganizerVisitor::inp_OrganizerVisitor(bool enhanced) : m_enhanced(enhanced) {
+inp_OrganizerVisitor::inp_OrganizerVisitor(bool enhanced)
+    : m_enhanced(enhanced), m_rootKeys(rootLevelKeys(enhanced)) {
     m_openKeywords.Append(inp_Keyword());
-    m_allowedKeys.Append(rootLevelKeys(enhanced));
+    m_allowedKeys.push_back(&m_rootKeys);
 }
 
 // The climb is a loop rather than a fresh Visit(keyword) after each pop:
@@ -92,7 +80,7 @@ inp_OrganizerVisitor::inp_OrganizerVisitor(bool enhanced) : m_enhanced(enhanced)
 void inp_OrganizerVisitor::DefaultAction(inp_Keyword& keyword) {
     int const key = keyword.Keyword();
     for (;;) {
-        if (accepts(m_allowedKeys.Last(), key)) {
+        if (accepts(*m_allowedKeys.back(), key)) {
             printMove("OrganizerVisitor - Push: ", keyword);
             // A keyword of a flat list is taken out of it rather than copied;
             // one with suboptions stays, as the walk goes on into them.
@@ -124,7 +112,7 @@ void inp_OrganizerVisitor::OrganizeAndReport(cow_List<inp_Keyword>&& keywords) {
 // fault to find.
 void inp_OrganizerVisitor::VisitStep(inp_Keyword& keyword) {
     SetStepName(keyword);
-    m_allowedKeys.Get(0) = cow_List<int>{inp_kw_Step, inp_kw_EndStep};
+    m_rootKeys = {inp_kw_Step, inp_kw_EndStep};
     DefaultAction(keyword);
 }
 
@@ -170,30 +158,31 @@ void inp_OrganizerVisitor::MisplacedKeywordError(inp_Keyword const& keyword) {
 
 // -- private ----------------------------------------------------------------------
 
-cow_List<int> inp_OrganizerVisitor::allowedBelow(int key) {
-    if (cow_List<int> const* known = m_sortedSuboptions.Find(key)) return *known;
-    std::vector<int> keys;
-    appendSuboptions(key, keys);
-    cow_List<int> sorted = ascendingUnique(keys);
-    m_sortedSuboptions.Insert(key, sorted);
-    return sorted;
+std::vector<int> const& inp_OrganizerVisitor::allowedBelow(int key) {
+    auto [entry, added] = m_sortedSuboptions.try_emplace(key);
+    if (added) {
+        std::vector<int> keys;
+        appendSuboptions(key, keys);
+        entry->second = ascendingUnique(keys);
+    }
+    return entry->second;
 }
 
 // A keyword that may hold nothing would be closed by whatever comes next, as
 // it accepts nothing: it goes straight into the open level that takes it
 // instead of through the stack.
 void inp_OrganizerVisitor::push(inp_Keyword keyword) {
-    cow_List<int> allowed = allowedBelow(keyword.Keyword());
-    if (allowed.IsEmpty() && !closesAtItsOwnEnd(keyword.Keyword())) {
+    std::vector<int> const& allowed = allowedBelow(keyword.Keyword());
+    if (allowed.empty() && !closesAtItsOwnEnd(keyword.Keyword())) {
         m_openKeywords.GetLast().GetSuboptions().Append(std::move(keyword));
         return;
     }
-    m_allowedKeys.Append(std::move(allowed));
+    m_allowedKeys.push_back(&allowed);
     m_openKeywords.Append(std::move(keyword));
 }
 
 void inp_OrganizerVisitor::closeTop() {
-    m_allowedKeys.RemoveLast();
+    m_allowedKeys.pop_back();
     inp_Keyword closed = m_openKeywords.Pop();
     m_openKeywords.GetLast().GetSuboptions().Append(std::move(closed));
 }

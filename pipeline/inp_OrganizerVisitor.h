@@ -17,6 +17,9 @@
 // copied instead): the flat list is meant to be replaced by what Keywords()
 // returns.
 
+#include <unordered_map>
+#include <vector>
+
 #include "deck/inp_Keyword.h"
 #include "pipeline/inp_Visitor.h"
 #include "support/cow_List.h"
@@ -28,6 +31,9 @@ class inp_OrganizerVisitor : public inp_Visitor {
     // `enhanced`: the deck is built of parts and an assembly. A flat deck's
     // top level takes what a part, an instance or an assembly would hold.
     explicit inp_OrganizerVisitor(bool enhanced);
+    // The stack of open levels points into the object itself.
+    inp_OrganizerVisitor(inp_OrganizerVisitor const&) = delete;
+    inp_OrganizerVisitor& operator=(inp_OrganizerVisitor const&) = delete;
 
     // Walks `keywords`, taken over, and reports: each record leaves the flat
     // list as soon as it is placed, so that the flat list's memory comes free
@@ -58,16 +64,20 @@ class inp_OrganizerVisitor : public inp_Visitor {
     void MisplacedKeywordError(inp_Keyword const& keyword);
 
   private:
-    cow_List<int> allowedBelow(int key);
+    std::vector<int> const& allowedBelow(int key);
     void push(inp_Keyword keyword);
     void closeTop();
     cow_String levelsThatAccept(int key);
 
     bool m_enhanced;
-    cow_List<inp_Keyword> m_openKeywords;   // bottom: the root
-    cow_List<cow_List<int>> m_allowedKeys;  // in step with m_openKeywords, each ascending
+    cow_List<inp_Keyword> m_openKeywords;  // bottom: the root
+    std::vector<int> m_rootKeys;           // what the root takes, ascending
+    // In step with m_openKeywords: what each open level takes, ascending;
+    // the root's list, then entries of m_sortedSuboptions.
+    std::vector<std::vector<int> const*> m_allowedKeys;
     // Caches of values that depend only on a key, so that a deck of millions
-    // of keywords asks the table once per kind of keyword.
-    cow_Map<int, cow_List<int>> m_sortedSuboptions;
+    // of keywords asks the table once per kind of keyword. The suboptions'
+    // lists stay where they are once made: the stack above points at them.
+    std::unordered_map<int, std::vector<int>> m_sortedSuboptions;
     cow_Map<int, cow_String> m_parentLevels;
 };
