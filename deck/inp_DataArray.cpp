@@ -3,12 +3,23 @@
 #include "deck/inp_QuotedText.h"
 #include "deck/inp_RawDataArrayImpl.h"
 
-inp_DataArray::inp_DataArray() : m_impl(new inp_RawDataArrayImpl()) {
+inp_DataArray::inp_DataArray(inp_DataArrayImpl* impl) : m_impl(impl) {
     retain();
 }
 
-inp_DataArray::inp_DataArray(inp_DataArrayImpl* impl) : m_impl(impl) {
-    retain();
+inp_DataArrayImpl* inp_DataArray::storage() const {
+    if (!m_impl) {
+        m_impl = new inp_RawDataArrayImpl();
+        retain();
+    }
+    return m_impl;
+}
+
+// Shared by every thread: reads of an array of no rows change nothing (the
+// item reads assert before they touch a row), and nothing writes to it.
+inp_DataArrayImpl* inp_DataArray::emptyArray() noexcept {
+    static inp_RawDataArrayImpl empty;
+    return &empty;
 }
 
 // Out of line, like the counts of the other shared handles: when two handles

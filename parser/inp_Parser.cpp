@@ -248,19 +248,21 @@ inp_Keyword inp_Parser::ParseKeyword(bool strict) {
 void inp_Parser::readDataLines(inp_Keyword& keyword) {
     // The lines of *HEADING and *STEP are titles, kept whole and kept always.
     bool titles = keyword.Is(inp_kw_Heading) || keyword.Is(inp_kw_Step);
-    inp_DataArrayImpl* data = keyword.Data().Impl();
+    // The array gets its storage with its first line: a keyword without
+    // data lines costs none.
+    inp_DataArray const& data = keyword.Data();
     readToNextKeyword([&](char const* line) {
         if (IsComment(line)) {
             BufferCommentLine(line);
         } else if (titles) {
-            data->AppendRaw(line);
+            data.AppendRaw(line);
         } else {
             // Only the comments directly in front of the next keyword are its own.
             if (m_commentsPending) {
                 m_comments.Clear();
                 m_commentsPending = false;
             }
-            if (bulk) data->Append(line);
+            if (bulk) data.Append(line);
         }
     });
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "deck/inp_RawDataArrayImpl.h"
+#include "support/ZELBasException.h"
 #include "support/aio_Stream.h"
 
 namespace {
@@ -93,6 +94,31 @@ TEST(KeywordCopy, DataHandlesCountTheirArrayAndAMovedRecordIsEmpty) {
               0);  // NOLINT(bugprone-use-after-move): the moved-from state is the point
     original = other;
     EXPECT_EQ(original.Data().Cols(0), 2);
+}
+
+// A record's data has no storage until it is written or copied; a copy then
+// shares it with the record copied from, as copies always share their data.
+TEST(KeywordCopy, DataWithoutStorageReadsEmptyAndCopiesStillShare) {
+    inp_Keyword empty(inp_kw_Step);
+    EXPECT_EQ(empty.Data().UseCount(), 0);
+    EXPECT_EQ(empty.Data().Rows(), 0);
+    EXPECT_FALSE(empty.Data().HasValue(0, 0));
+    EXPECT_EQ(empty.Data().AsString(0, 0, "x y"), "XY");
+    EXPECT_THROW(empty.Data().Cols(0), ZELBasAssertException);
+    EXPECT_FALSE(empty.Data().SharesWith(inp_Keyword(inp_kw_Step).Data()));
+    EXPECT_EQ(empty.DeepCopy().Data().UseCount(), 0);
+
+    inp_Keyword const copy = empty;
+    EXPECT_TRUE(copy.Data().SharesWith(empty.Data()));
+    copy.Data().Append("1, 2");
+    EXPECT_EQ(empty.Data().Cols(0), 2);
+
+    inp_Keyword written(inp_kw_Nset);
+    written.Data().Append("3");
+    EXPECT_EQ(written.Data().UseCount(), 1);
+    inp_Keyword const separate = written.DeepCopy();
+    separate.Data().Set(0, 0, 4);
+    EXPECT_EQ(written.Data().AsInt(0, 0), 3);
 }
 
 TEST(KeywordCopy, DeepCopySeparatesDataRecursivelyAndDropsComments) {

@@ -236,6 +236,12 @@ TEST_F(ParserParameters, SharedNamesReadAsWrittenAndStayApart) {
     EXPECT_EQ(keywords.ConstGet(3).Data().AsInt(0, 0), 4);
     EXPECT_EQ(names[3], "nset");
     EXPECT_EQ(r.keywords.ConstGet(3).Print(false), keywords.ConstGet(3).Print(false));
+
+    // A keyword without data lines holds no storage for them.
+    ParseResult bare = parseText("*STEP\n*STATIC\n*END STEP\n");
+    ASSERT_EQ(bare.keywords.Length(), 3);
+    EXPECT_EQ(bare.keywords.ConstGet(1).Data().UseCount(), 0);
+    EXPECT_EQ(bare.keywords.ConstGet(0).Data().UseCount(), 0);  // a step without a title
 }
 
 using ParserErrors = ParserTest;
