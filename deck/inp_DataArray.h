@@ -4,8 +4,8 @@
 // Copy (and inp_Keyword::DeepCopy) makes independent data. The operations
 // forward to the implementation without making the data private first.
 //
-// A new handle holds no storage: most keywords of a deck of small keywords
-// have no data lines, and a handle that is only moved never needs any. The
+// A new handle holds no storage: many keywords have no data lines (*MATERIAL,
+// *STATIC, *END STEP), and a handle that is only moved never needs any. The
 // storage (an empty raw-text array) is made by the first write, by Impl(),
 // and by the first copy, in the handle copied from, so that the copies
 // share it like any other. Reads of a handle without storage see an array
