@@ -12,13 +12,6 @@
 
 namespace {
 
-std::string_view withoutOuterBlanks(std::string_view text) {
-    size_t begin = text.find_first_not_of(" \t");
-    if (begin == std::string_view::npos) return {};
-    size_t end = text.find_last_not_of(" \t");
-    return text.substr(begin, end + 1 - begin);
-}
-
 // A matched text is a view into the text; when it covers all of a string
 // that holds it, the string is shared rather than copied.
 cow_String textOf(std::string_view matched, cow_String const* whole) {
@@ -78,7 +71,7 @@ inp_Item::inp_Item(std::string_view text) {
 }
 
 void inp_Item::inferFrom(std::string_view text, cow_String const* whole) {
-    std::string_view value = withoutOuterBlanks(text);
+    std::string_view value = inp_PatternMatchers::WithoutOuterBlanks(text);
     if (value.empty()) return;
     using Matchers = inp_PatternMatchers;
     if (inp_PatternMatch match = Matchers::MatchInteger(value)) {

@@ -128,7 +128,7 @@ class inp_Keyword {
     cow_String m_fileName;
     int m_lineNumber = 0;
     bool m_encrypted = false;
-    bool m_fromScripting =
-        false;  // beside the other small fields: a deck holds millions of records
+    // Beside the other small fields: a deck holds millions of records.
+    bool m_fromScripting = false;
     cow_List<cow_String> m_comments;
 };

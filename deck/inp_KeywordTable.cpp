@@ -14,7 +14,6 @@ inp_KeywordTable::inp_KeywordTable() {
                  ++sub)
                 suboptions.Append(*sub);
         m_suboptionMap.Insert(row->keyword, suboptions);
-        m_enumMap.Insert(cow_String(row->name), row->keyword);
         m_nameMap.Insert(row->keyword, cow_String(row->name));
         m_sortedNames.emplace_back(row->name, row->keyword);
     }
@@ -23,19 +22,21 @@ inp_KeywordTable::inp_KeywordTable() {
 }
 
 // The names that start with `name` lie together in sorted order, from where
-// `name` would stand: an exact name is the first of them.
+// `name` would stand: an exact name is the first of them, and a second one
+// there makes an abbreviation ambiguous.
 int inp_KeywordTable::Match(std::string_view name, inp_KeywordEnm& keyword) const {
-    auto at = std::lower_bound(m_sortedNames.begin(), m_sortedNames.end(), name,
-                               [](std::pair<std::string_view, inp_KeywordEnm> const& entry,
-                                  std::string_view wanted) { return entry.first < wanted; });
-    int matches = 0;
-    for (auto it = at; it != m_sortedNames.end() && it->first.starts_with(name); ++it) {
-        if (matches == 0) keyword = it->second;
-        if (++matches == 1 && it->first == name) return 1;
-        if (matches > 1) break;
-    }
-    if (matches != 1) keyword = inp_kw_UndefinedKeyword;
-    return matches;
+    auto const first =
+        std::lower_bound(m_sortedNames.begin(), m_sortedNames.end(), name,
+                         [](std::pair<std::string_view, inp_KeywordEnm> const& entry,
+                            std::string_view wanted) { return entry.first < wanted; });
+    auto const startsWithName = [&](auto it) {
+        return it != m_sortedNames.end() && it->first.starts_with(name);
+    };
+    keyword = inp_kw_UndefinedKeyword;
+    if (!startsWithName(first)) return 0;
+    if (first->first != name && startsWithName(first + 1)) return 2;
+    keyword = first->second;
+    return 1;
 }
 
 cow_String inp_KeywordTable::FullName(cow_String const& name) const {
@@ -47,7 +48,6 @@ cow_String inp_KeywordTable::FullName(cow_String const& name) const {
 }
 
 inp_KeywordEnm inp_KeywordTable::Enum(cow_String const& name) const {
-    if (inp_KeywordEnm const* exact = m_enumMap.Find(name)) return *exact;
     inp_KeywordEnm keyword = inp_kw_UndefinedKeyword;
     Match(name.View(), keyword);
     return keyword;

@@ -28,8 +28,8 @@ class inp_KeywordTable : public thr_ThreadSingleton<inp_KeywordTable> {
     inp_KeywordEnm Enum(cow_String const& name) const;
     // How a folded name resolves, without throwing: 0 if it is no name and
     // abbreviates none, 1 if it is a name or abbreviates exactly one (then
-    // `keyword` is set to it), more if it abbreviates several. Any count but
-    // 1 leaves `keyword` 0.
+    // `keyword` is set to it), 2 if it abbreviates several. Any count but 1
+    // leaves `keyword` 0.
     int Match(std::string_view name, inp_KeywordEnm& keyword) const;
     // The table's name; the enumerator must exist.
     cow_String Name(inp_KeywordEnm keyword) const;
@@ -63,9 +63,8 @@ class inp_KeywordTable : public thr_ThreadSingleton<inp_KeywordTable> {
     void appendBelow(int keyword, cow_List<int>& result) const;
     cow_List<int> directSuboptionsWithout(int keyword, int excluded) const;
 
-    cow_Map<int, cow_List<int>> m_suboptionMap;     // enumerator to suboptions
-    cow_Map<cow_String, inp_KeywordEnm> m_enumMap;  // name to enumerator
-    cow_Map<int, cow_String> m_nameMap;             // enumerator to name
+    cow_Map<int, cow_List<int>> m_suboptionMap;  // enumerator to suboptions
+    cow_Map<int, cow_String> m_nameMap;          // enumerator to name
     // Every name with its enumerator, in ascending order of the names.
     std::vector<std::pair<std::string_view, inp_KeywordEnm>> m_sortedNames;
 };

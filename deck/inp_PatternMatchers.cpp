@@ -181,6 +181,11 @@ Match inp_PatternMatchers::MatchDoubleD(std::string_view text) noexcept {
     return matchReal(text, 'd', 'D');
 }
 
+std::string_view inp_PatternMatchers::WithoutOuterBlanks(std::string_view text) noexcept {
+    Span const span = withoutOuterBlanks(text);
+    return text.substr(span.begin, span.end - span.begin);
+}
+
 Match inp_PatternMatchers::MatchParam(std::string_view text) noexcept {
     Span span = withoutOuterBlanks(text);
     if (span.IsEmpty() || !isLetter(text[span.begin])) return {};

@@ -20,6 +20,8 @@ struct inp_PatternMatch {
 // ordinary character to these patterns.
 class inp_PatternMatchers {
   public:
+    // The text without the blanks around it; empty when there is nothing else.
+    static std::string_view WithoutOuterBlanks(std::string_view text) noexcept;
     // inp_Types::stringPat(): a name, or anything but quotes and newlines in
     // double quotes; the text without the blanks around it.
     static inp_PatternMatch MatchString(std::string_view text) noexcept;

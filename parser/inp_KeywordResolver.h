@@ -2,9 +2,8 @@
 // Resolves the name of a keyword line, as written, to its folded form and its
 // enumerator through the keyword table, and remembers the answer for each
 // name, failures included. A deck names the same few keywords again and
-// again: the fold and the table's search (and, for an abbreviation or an
-// unknown name, its scan of every name) then run once per name, not once per
-// line.
+// again: the fold and the table's search then run once per name, not once
+// per line.
 //
 // Belongs to one parser, on one thread. Stops remembering new names at
 // kMaxNames.

@@ -40,12 +40,6 @@ bool hasEncryptionMarker(char const* line) {
     return false;
 }
 
-std::string_view trimmedOf(std::string_view text) {
-    size_t const begin = text.find_first_not_of(" \t");
-    if (begin == std::string_view::npos) return {};
-    return text.substr(begin, text.find_last_not_of(" \t") + 1 - begin);
-}
-
 }  // namespace
 
 inp_Parser::inp_Parser(cow_String fileName, cow_String includePath, cow_List<cow_String> openFiles,
@@ -232,7 +226,8 @@ inp_Keyword inp_Parser::ParseKeyword(bool strict) {
     keyword.SetKeyword(resolved.keyword);
 
     if (comma != std::string_view::npos) {
-        std::string_view parameters = trimmedOf(text.substr(comma + 1));
+        std::string_view parameters =
+            inp_PatternMatchers::WithoutOuterBlanks(text.substr(comma + 1));
         try {
             ParseParameters(keyword, parameters, strict);
         } catch (inp_ParameterException const& cause) {
@@ -280,7 +275,8 @@ void inp_Parser::ParseParameters(inp_Keyword& keyword, std::string_view text, bo
         char const c = i < text.size() ? text[i] : ',';
         if (c == '"') quoted = !quoted;
         if (c != ',' || quoted) continue;
-        std::string_view const token = trimmedOf(text.substr(start, i - start));
+        std::string_view const token =
+            inp_PatternMatchers::WithoutOuterBlanks(text.substr(start, i - start));
         start = i + 1;
         if (!token.empty()) addParameter(keyword, parameters, token, strict);
     }
@@ -308,7 +304,7 @@ void inp_Parser::addParameter(inp_Keyword const& keyword, cow_Map<cow_String, in
                 ? atr("Repeated parameter: %s.  New definition overrides previous setting.", name)
                 : atr("Repeated parameter: %s.  New definition of \"%s\" overrides previous "
                       "setting.",
-                      name, cow_String(trimmedOf(value)));
+                      name, cow_String(inp_PatternMatchers::WithoutOuterBlanks(value)));
         m_warnings.Append(inp_MessageInKeyword(keyword, text));
     }
 

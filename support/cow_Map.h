@@ -124,16 +124,7 @@ class cow_Map {
     // Calls f(key, value) for every entry in ascending key order.
     template <class F>
     void ForEachSorted(F&& f) const {
-        std::vector<Node const*> path;
-        path.reserve(static_cast<size_t>(height(m_root)));
-        Node const* node = m_root;
-        while (node || !path.empty()) {
-            for (; node; node = node->left) path.push_back(node);
-            node = path.back();
-            path.pop_back();
-            f(node->key, node->value);
-            node = node->right;
-        }
+        forEachNodeSorted(m_root, [&f](Node const* node) { f(node->key, node->value); });
     }
 
     // Sharing, for tests.
@@ -299,6 +290,21 @@ class cow_Map {
         return min;
     }
 
+    // Calls visit(node) for every node below `root`, keys ascending: the
+    // tree's in-order walk.
+    template <class Visit>
+    static void forEachNodeSorted(Node const* root, Visit&& visit) {
+        std::vector<Node const*> path;
+        path.reserve(static_cast<size_t>(height(root)));
+        Node const* node = root;
+        while (node || !path.empty()) {
+            for (; node; node = node->left) path.push_back(node);
+            node = path.back();
+            path.pop_back();
+            visit(node);
+            node = node->right;
+        }
+    }
     static void collect(Node const* root, std::vector<Node const*>& out) {
         std::vector<Node const*> pending;
         if (root) pending.push_back(root);
@@ -381,7 +387,8 @@ class cow_ConstMapSortedIt {
         if constexpr (std::is_convertible_v<Cmp, bool (*)(K const&, K const&)>) {
             bool (*const order)(K const&, K const&) = cmp;
             if (order == &AscSortCmp || order == &DescSortCmp) {
-                collectAscending();
+                Map::forEachNodeSorted(m_map.m_root,
+                                       [this](Node const* node) { m_nodes.push_back(node); });
                 if (order == &DescSortCmp) std::reverse(m_nodes.begin(), m_nodes.end());
                 return;
             }
@@ -402,18 +409,6 @@ class cow_ConstMapSortedIt {
   private:
     using Map = cow_Map<K, V>;
     using Node = typename Map::Node;
-    // In-order walk of the tree: its keys ascend.
-    void collectAscending() {
-        std::vector<Node const*> path;
-        Node const* node = m_map.m_root;
-        while (node || !path.empty()) {
-            for (; node; node = node->left) path.push_back(node);
-            node = path.back();
-            path.pop_back();
-            m_nodes.push_back(node);
-            node = node->right;
-        }
-    }
     Node const* current() const {
         ZELBAS_ASSERT_TEXT(NotDone(), "map iterator is done");
         return m_nodes[m_index];

@@ -234,8 +234,8 @@ void fedeck_Report::WriteDiagnostics(aio_ostream& out, int limit) const {
     size_t beyondLimit = 0;
     for (size_t i = 0; i < m_diagnostics.size(); ++i) {
         if (shown == allowed) {
-            ++beyondLimit;
-            continue;
+            beyondLimit = m_diagnostics.size() - i;
+            break;
         }
         Kind& kind = kinds[fedeck_MessageKind(m_diagnostics[i].text.View())];
         if (++kind.seen > kShownOfOneKind) {
