@@ -38,6 +38,10 @@ class inp_Item {
     // "TRUE" or "FALSE", the number in the system's text form, the text, or
     // "None" without a value.
     cow_String AsString() const;
+    // The text of a string item, read in place; null for the other types.
+    cow_String const* IfString() const noexcept {
+        return m_type == inp_Types::inp_STRING ? &m_string : nullptr;
+    }
 
   private:
     // `whole`, when given, holds `text`: a string item that keeps all of it

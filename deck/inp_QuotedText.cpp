@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <memory>
+#include <string_view>
 
 namespace {
 
@@ -47,6 +48,26 @@ cow_String foldOutsideQuotes(char const* text, cow_String const* unchanged = nul
     return cow_String(out, static_cast<int>(used));
 }
 
+// Whether the fold would give `text` back as it is: most values in a deck
+// are written in the form the fold gives, and one look at them spares the
+// copy and the comparison. A line end or a zero byte stops the fold, so
+// text holding one takes the full way.
+template <bool upper>
+bool foldsToItself(std::string_view text) {
+    bool quoted = false;
+    for (char const c : text) {
+        if (c == '"') {
+            quoted = !quoted;
+        } else if (c == '\n' || c == '\0') {
+            return false;
+        } else if (!quoted) {
+            if (c == ' ' || c == '\t' || c == '\r') return false;
+            if (upper && c >= 'a' && c <= 'z') return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(char const* text) {
@@ -58,9 +79,11 @@ cow_String inp_TakeOutSpacesOutsideQuoted(char const* text) {
 }
 
 cow_String inp_TakeOutSpacesAndUpperOutsideQuoted(cow_String const& text) {
+    if (foldsToItself<true>(text.View())) return text;
     return foldOutsideQuotes<true>(text.CStr(), &text);
 }
 
 cow_String inp_TakeOutSpacesOutsideQuoted(cow_String const& text) {
+    if (foldsToItself<false>(text.View())) return text;
     return foldOutsideQuotes<false>(text.CStr(), &text);
 }

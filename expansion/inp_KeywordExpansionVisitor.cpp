@@ -45,12 +45,12 @@ bool keepsCase(inp_Keyword const& keyword, char const* word) {
 inp_Item normalisedValue(inp_Keyword const& keyword, char const* word, inp_Item const& value,
                          bool& changed) {
     changed = false;
-    if (!isType(value, inp_Types::inp_STRING)) return value;
-    cow_String const text = value.AsString();
+    cow_String const* text = value.IfString();
+    if (!text) return value;
     cow_String const folded = keepsCase(keyword, word)
-                                  ? inp_Utils::TakeOutSpacesOutsideQuoted(text)
-                                  : inp_Utils::TakeOutSpacesAndUpperOutsideQuoted(text);
-    if (folded == text) return value;
+                                  ? inp_Utils::TakeOutSpacesOutsideQuoted(*text)
+                                  : inp_Utils::TakeOutSpacesAndUpperOutsideQuoted(*text);
+    if (folded.SharesWith(*text) || folded == *text) return value;
     changed = true;
     return inp_Item(folded);
 }

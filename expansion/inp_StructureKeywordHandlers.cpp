@@ -8,14 +8,18 @@
 // says otherwise.
 
 #include <cctype>
+#include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
+#include <vector>
 
 #include "deck/inp_ElementDataArrayImpl.h"
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_NodeDataArrayImpl.h"
 #include "expansion/inp_KeywordExpansionVisitor.h"
 #include "expansion/inp_Schema.h"
+#include "support/ZELBasAssert.h"
 
 namespace {
 
@@ -191,6 +195,27 @@ constexpr RequiredParameter kRequiredParameters[] = {
     {inp_kw_Elset, "elset", FailsWhen::Absent, "The ELSET parameter is required."},
     {inp_kw_Surface, "name", FailsWhen::AbsentOrNoString, "The NAME parameter is required."},
 };
+
+// The rules of one keyword stand together in the table; this gives them,
+// an empty span for the many keywords without any, at one look.
+std::span<RequiredParameter const> requiredParameterRules(inp_KeywordEnm key) {
+    struct Range {
+        std::uint8_t first = 0, count = 0;
+    };
+    static std::vector<Range> const ranges = [] {
+        std::vector<Range> byKey(static_cast<size_t>(inp_keywordKeyLimit));
+        for (size_t i = 0; i < std::size(kRequiredParameters); ++i) {
+            Range& range = byKey[static_cast<size_t>(kRequiredParameters[i].key)];
+            if (range.count == 0) range.first = static_cast<std::uint8_t>(i);
+            ZELBAS_ASSERT_TEXT(range.first + range.count == i, "a keyword's rules stand together");
+            ++range.count;
+        }
+        return byKey;
+    }();
+    auto const index = static_cast<size_t>(key);
+    if (index >= ranges.size()) return {};
+    return std::span(kRequiredParameters).subspan(ranges[index].first, ranges[index].count);
+}
 
 bool isPresent(RequiredParameter const& rule, inp_Keyword const& keyword) {
     inp_Item const* item = keyword.Parameters().Find(rule.parameter);
@@ -559,10 +584,9 @@ void inp_KeywordExpansionVisitor::applyAssemblyModelRule(inp_Keyword& keyword) {
 // map and fail too. Their messages still name the keyword as it stood in
 // the deck, not the blanked record.
 void inp_KeywordExpansionVisitor::applyRequiredParameterRules(inp_Keyword& keyword) {
-    inp_KeywordEnm const key = keyword.Keyword();
     std::optional<inp_Keyword> asWritten;  // made only when blanking
-    for (RequiredParameter const& rule : kRequiredParameters) {
-        if (rule.key != key || isPresent(rule, keyword)) continue;
+    for (RequiredParameter const& rule : requiredParameterRules(keyword.Keyword())) {
+        if (isPresent(rule, keyword)) continue;
         inp_Keyword const& where = asWritten ? *asWritten : keyword;
         if (rule.outcome == Outcome::FatalErrorKept) {
             fatalError(where, atr(rule.message));

@@ -1,10 +1,10 @@
 #include "parser/inp_Parser.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <cstring>
 #include <new>
+#include <string_view>
 
 #include "deck/inp_Exceptions.h"
 #include "deck/inp_KeywordMessage.h"
@@ -30,14 +30,34 @@ bool isLineBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r';
 }
 
-// Whether the line holds the marker of an encrypted file. Data lines seldom
-// hold an asterisk at all, and keyword lines one that no second follows, so
-// the marker is looked for only where two asterisks stand together.
-bool hasEncryptionMarker(char const* line) {
-    constexpr char kMarker[] = "** encrypted input";
-    for (char const* star = std::strchr(line, '*'); star; star = std::strchr(star + 1, '*'))
-        if (star[1] == '*' && std::strncmp(star, kMarker, sizeof kMarker - 1) == 0) return true;
+// Whether the line holds the marker of an encrypted file. The marker starts
+// with two asterisks, which data lines seldom hold and keyword lines seldom
+// more than one of: the pair is looked for first. Most lines of a deck of
+// small keywords are a dozen characters, where a plain loop costs less than
+// the library's search, which wins on the long lines of a mesh.
+bool hasEncryptionMarker(char const* line, size_t length) {
+    constexpr std::string_view kMarker = "** encrypted input";
+    constexpr size_t kShortLine = 32;
+    if (length < kMarker.size()) return false;
+    std::string_view const text(line, length);
+    auto markerAt = [&](size_t at) { return text.compare(at, kMarker.size(), kMarker) == 0; };
+    size_t const lastStart = length - kMarker.size();
+    if (length < kShortLine) {
+        for (size_t at = 0; at <= lastStart; ++at)
+            if (line[at] == '*' && line[at + 1] == '*' && markerAt(at)) return true;
+        return false;
+    }
+    for (size_t at = text.find('*'); at <= lastStart; at = text.find('*', at + 1))
+        if (line[at + 1] == '*' && markerAt(at)) return true;
     return false;
+}
+
+bool isBlankOrLineEnd(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\v' || c == '\f' || c == '\r';
+}
+
+bool isLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 }  // namespace
@@ -75,6 +95,7 @@ char const* inp_Parser::Readline() {
     };
     if (m_endOfFile || eof() || fail()) return endOfFile();
 
+    size_t length = 0;
     for (;;) {
         m_buffer[0] = 0;
         aio_istream::getline(m_buffer, kMaxLineLength + 1);
@@ -84,9 +105,11 @@ char const* inp_Parser::Readline() {
             if (gcount() != kMaxLineLength) return endOfFile();
             discardRestOfLine();
         }
-        if (m_encrypted || hasEncryptionMarker(m_buffer)) {
+        length = std::strlen(m_buffer);
+        if (m_encrypted || hasEncryptionMarker(m_buffer, length)) {
             bool wasHeader = m_headerPending;
             Decrypt(m_buffer);
+            length = std::strlen(m_buffer);
             // The header of an encrypted file carries its working key: it is
             // read past here, so that it can't become a data line of the
             // keyword in front of the *INCLUDE and be shown with it.
@@ -101,7 +124,7 @@ char const* inp_Parser::Readline() {
 
     char* line = m_buffer;
     while (isLineBlank(*line)) ++line;
-    size_t length = std::strlen(line);
+    length -= static_cast<size_t>(line - m_buffer);
     while (length > 0 && isLineBlank(line[length - 1])) line[--length] = 0;
     return line;
 }
@@ -126,11 +149,12 @@ bool inp_Parser::IsComment(char const* line) {
 }
 
 bool inp_Parser::IsKeyword(char const* line) {
-    while (std::isspace(static_cast<unsigned char>(*line))) ++line;
+    // The blanks and letters of the C locale, whatever the caller's locale.
+    while (isBlankOrLineEnd(*line)) ++line;
     if (*line != '*') return false;
     ++line;
-    while (std::isspace(static_cast<unsigned char>(*line))) ++line;
-    return std::isalpha(static_cast<unsigned char>(*line)) != 0;
+    while (isBlankOrLineEnd(*line)) ++line;
+    return isLetter(*line);
 }
 
 void inp_Parser::BufferCommentLine(char const* line) {

@@ -56,6 +56,14 @@ constexpr char const* kPeriodInName =
     "Period cannot be used within set, surface, orientation, instance, and assembly names in a "
     "model defined in terms of an assembly of parts";
 
+// A name is most often a string, read where it lies; an integer holds no
+// period; other values are seen as they print.
+bool hasUnquotedPeriod(inp_Item const& value) {
+    if (cow_String const* text = value.IfString()) return inp_Utils::HasNameUnquotedPeriod(*text);
+    if (value.Type() == inp_Types::inp_INTEGER) return false;
+    return inp_Utils::HasNameUnquotedPeriod(value.AsString());
+}
+
 // Depth first, keyword before its suboptions; false once an offender is
 // reported, which ends the whole check.
 bool checkNames(cow_List<inp_Keyword> const& keywords) {
@@ -64,7 +72,7 @@ bool checkNames(cow_List<inp_Keyword> const& keywords) {
             for (char const* parameter : entry->parameters) {
                 inp_Item const* value = keyword.Parameters().Find(parameter);
                 if (value == nullptr) continue;
-                if (!inp_Utils::HasNameUnquotedPeriod(value->AsString())) continue;
+                if (!hasUnquotedPeriod(*value)) continue;
                 thr_ThreadSingleton<wip_WIP>::Instance().Error(
                     inp_Utils::MessageInKeyword(keyword, atr(kPeriodInName)), wip_LEVEL1);
                 return false;

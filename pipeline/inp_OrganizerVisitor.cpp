@@ -158,13 +158,18 @@ void inp_OrganizerVisitor::MisplacedKeywordError(inp_Keyword const& keyword) {
 
 // -- private ----------------------------------------------------------------------
 
+// Decks write keywords of a kind in runs (a set after a set, a load after
+// a load): the last answer is kept beside the cache.
 std::vector<int> const& inp_OrganizerVisitor::allowedBelow(int key) {
+    if (m_lastAllowed && m_lastAllowedKey == key) return *m_lastAllowed;
     auto [entry, added] = m_sortedSuboptions.try_emplace(key);
     if (added) {
         std::vector<int> keys;
         appendSuboptions(key, keys);
         entry->second = ascendingUnique(keys);
     }
+    m_lastAllowedKey = key;
+    m_lastAllowed = &entry->second;
     return entry->second;
 }
 

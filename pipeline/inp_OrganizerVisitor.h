@@ -79,5 +79,7 @@ class inp_OrganizerVisitor : public inp_Visitor {
     // of keywords asks the table once per kind of keyword. The suboptions'
     // lists stay where they are once made: the stack above points at them.
     std::unordered_map<int, std::vector<int>> m_sortedSuboptions;
+    int m_lastAllowedKey = 0;
+    std::vector<int> const* m_lastAllowed = nullptr;  // the entry of m_lastAllowedKey
     cow_Map<int, cow_String> m_parentLevels;
 };

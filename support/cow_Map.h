@@ -336,25 +336,19 @@ class cow_Map {
 template <class K, class V>
 class cow_ConstMapIterator {
   public:
-    explicit cow_ConstMapIterator(cow_Map<K, V> const& map) : m_map(map) {
-        // Visiting a node pushes at most its two children after popping it, so
-        // the stack never holds more than one node per level plus one.
-        m_pending.reserve(static_cast<size_t>(Map::height(m_map.m_root)) + 1);
-        First();
-    }
+    explicit cow_ConstMapIterator(cow_Map<K, V> const& map) : m_map(map) { First(); }
     void First() {
-        m_pending.clear();
-        if (m_map.m_root) m_pending.push_back(m_map.m_root);
+        m_depth = 0;
+        if (m_map.m_root) m_pending[m_depth++] = m_map.m_root;
     }
     void Next() {
         if (IsDone()) return;
-        Node const* node = m_pending.back();
-        m_pending.pop_back();
-        if (node->right) m_pending.push_back(node->right);
-        if (node->left) m_pending.push_back(node->left);
+        Node const* node = m_pending[--m_depth];
+        if (node->right) m_pending[m_depth++] = node->right;
+        if (node->left) m_pending[m_depth++] = node->left;
     }
-    bool IsDone() const noexcept { return m_pending.empty(); }
-    bool NotDone() const noexcept { return !m_pending.empty(); }
+    bool IsDone() const noexcept { return m_depth == 0; }
+    bool NotDone() const noexcept { return m_depth != 0; }
     K const& CurrentKey() const { return current()->key; }
     V const& CurrentValue() const { return current()->value; }
 
@@ -363,14 +357,20 @@ class cow_ConstMapIterator {
     using Node = typename Map::Node;
     Node const* current() const {
         ZELBAS_ASSERT_TEXT(NotDone(), "map iterator is done");
-        return m_pending.back();
+        return m_pending[m_depth - 1];
     }
 
+    // Visiting a node pushes at most its two children after popping it, so
+    // the stack never holds more than one node per level plus one. A balanced
+    // tree of 2^31 entries is under 46 levels high: the stack lives in the
+    // iterator, and walking a small map (a keyword's parameters) allocates
+    // nothing.
+    static constexpr int kMaxPending = 64;
     Map m_map;
-    std::vector<Node const*> m_pending;
+    int m_depth = 0;
+    Node const* m_pending[kMaxPending];
 };
 
-// Visits every entry of a snapshot of a map in the order of a comparison of
 // keys given to the constructor, such as AscSortCmp or DescSortCmp.
 template <class K, class V>
 class cow_ConstMapSortedIt {

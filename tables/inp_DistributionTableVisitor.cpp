@@ -19,18 +19,18 @@ std::string knownKinds() {
 }  // namespace
 
 // Tables may follow the distributions that use them: all are registered
-// before any use is checked.
+// in one walk, which keeps the distributions that name a table, and those
+// are checked after it.
 void inp_DistributionTableVisitor::VisitListAndReport(cow_List<inp_Keyword>& keywords) {
     inp_DistributionTableDB::Instance().ClearDeckTables();
-    m_checking = false;
+    m_uses.clear();
     VisitList(keywords);
-    m_checking = true;
-    VisitList(keywords);
+    for (inp_Keyword const& distribution : m_uses) checkUse(distribution);
+    m_uses.clear();
     Report();
 }
 
 void inp_DistributionTableVisitor::VisitDistributionTable(inp_Keyword& keyword) {
-    if (m_checking) return;
     inp_DistributionTableDB& tables = inp_DistributionTableDB::Instance();
     cow_String const name = keyword.GetParameterAsString("name", cow_String());
     std::vector<inp_distTableLabelEnum> labels;
@@ -52,9 +52,12 @@ void inp_DistributionTableVisitor::VisitDistributionTable(inp_Keyword& keyword) 
     if (!name.IsEmpty()) tables.addDistTables(name, static_cast<int>(labels.size()), size, labels);
 }
 
-// The first line is the default line; each line is a label and its values.
 void inp_DistributionTableVisitor::VisitDistribution(inp_Keyword& keyword) {
-    if (!m_checking || !keyword.HasParameter("table")) return;
+    if (keyword.HasParameter("table")) m_uses.push_back(keyword);
+}
+
+// The first line is the default line; each line is a label and its values.
+void inp_DistributionTableVisitor::checkUse(inp_Keyword const& keyword) {
     cow_String const name = keyword.GetParameterAsString("name", cow_String());
     cow_String const table = keyword.GetParameterAsString("table", cow_String());
     int found = 0;

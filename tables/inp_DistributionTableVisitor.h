@@ -5,6 +5,8 @@
 // it names: the table must exist, and no line may give more values than the
 // table's columns take. Keywords are only read.
 
+#include <vector>
+
 #include "pipeline/inp_Visitor.h"
 
 class inp_DistributionTableVisitor : public inp_Visitor {
@@ -18,5 +20,9 @@ class inp_DistributionTableVisitor : public inp_Visitor {
     void VisitDistribution(inp_Keyword& keyword) override;
 
   private:
-    bool m_checking = false;  // the second walk: tables are all known
+    void checkUse(inp_Keyword const& distribution);
+
+    // The distributions that name a table, in deck order; copies share
+    // their parts with the deck's records.
+    std::vector<inp_Keyword> m_uses;
 };

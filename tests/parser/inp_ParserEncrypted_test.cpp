@@ -92,3 +92,27 @@ TEST_F(ParserEncrypted, CorruptLineFailsStrictlyAndIsBlankOtherwise) {
     ASSERT_EQ(lenient.keywords.Length(), 3);
     EXPECT_EQ(lenient.keywords.Last().Data().Rows(), 2);  // the bad line arrives empty
 }
+
+// The marker is looked for in every line of a file without a password,
+// wherever it stands, in lines shorter and longer than a mesh line; text
+// that only resembles it is plain.
+TEST_F(ParserEncrypted, TheMarkerAnywhereInALineAsksForThePassword) {
+    std::string const needsPassword = "\", requires a password.";
+    for (std::string const line :
+         {"** encrypted input", "  ** encrypted input", "*NODE ** encrypted input",
+          "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 ** encrypted input",
+          "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 *** encrypted input, and more"}) {
+        EncryptedResult r = parseMain("*NODE\n" + line + "\n*STEP\n");
+        ASSERT_EQ(r.errors.Length() + r.fatalErrors.Length(), 1) << line;
+        cow_String const message =
+            r.errors.IsEmpty() ? r.fatalErrors.ConstGet(0) : r.errors.ConstGet(0);
+        EXPECT_TRUE(message.EndsWith(needsPassword.c_str())) << line;
+    }
+    for (std::string const line :
+         {"1, * encrypted input", "** encrypted inpu", "**encrypted input",
+          "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 ** encrypted inpu",
+          "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15 ** encrypted"}) {
+        EncryptedResult r = parseMain("*NODE\n" + line + "\n*STEP\n");
+        EXPECT_TRUE(r.errors.IsEmpty() && r.fatalErrors.IsEmpty()) << line;
+    }
+}
