@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "deck/inp_ElementDataArrayImpl.h"
@@ -153,7 +154,7 @@ enum class Outcome : unsigned char {
 
 struct RequiredParameter {
     inp_KeywordEnm key;
-    char const* parameter;
+    std::string_view parameter;
     FailsWhen test;
     char const* message;
     Outcome outcome = Outcome::ErrorAndBlank;

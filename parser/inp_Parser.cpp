@@ -30,14 +30,16 @@ bool isLineBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r';
 }
 
+// Most lines of a deck of small keywords are a dozen characters: on lines
+// shorter than this a plain loop over the bytes costs less than a call of
+// the library's searches, which win on the long lines of a mesh.
+constexpr size_t kShortLine = 32;
+
 // Whether the line holds the marker of an encrypted file. The marker starts
 // with two asterisks, which data lines seldom hold and keyword lines seldom
-// more than one of: the pair is looked for first. Most lines of a deck of
-// small keywords are a dozen characters, where a plain loop costs less than
-// the library's search, which wins on the long lines of a mesh.
+// more than one of: the pair is looked for first.
 bool hasEncryptionMarker(char const* line, size_t length) {
     constexpr std::string_view kMarker = "** encrypted input";
-    constexpr size_t kShortLine = 32;
     if (length < kMarker.size()) return false;
     std::string_view const text(line, length);
     auto markerAt = [&](size_t at) { return text.compare(at, kMarker.size(), kMarker) == 0; };

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <string_view>
 
 #include "assembly/inp_RemovePeriodVisitors.h"
 #include "assembly/inp_ScopedNameVisitors.h"
@@ -19,7 +20,7 @@ namespace {
 // The parameters whose value is a name the keyword defines.
 struct DefiningParameters {
     inp_KeywordEnm keyword;
-    std::initializer_list<char const*> parameters;
+    std::initializer_list<std::string_view> parameters;
 };
 
 DefiningParameters const kDefiningParameters[] = {
@@ -69,7 +70,7 @@ bool hasUnquotedPeriod(inp_Item const& value) {
 bool checkNames(cow_List<inp_Keyword> const& keywords) {
     for (inp_Keyword const& keyword : keywords) {
         if (DefiningParameters const* entry = definingParametersOf(keyword.Keyword())) {
-            for (char const* parameter : entry->parameters) {
+            for (std::string_view const parameter : entry->parameters) {
                 inp_Item const* value = keyword.Parameters().Find(parameter);
                 if (value == nullptr) continue;
                 if (!hasUnquotedPeriod(*value)) continue;
@@ -78,7 +79,7 @@ bool checkNames(cow_List<inp_Keyword> const& keywords) {
                 return false;
             }
         }
-        if (!checkNames(keyword.Suboptions())) return false;
+        if (!keyword.Suboptions().IsEmpty() && !checkNames(keyword.Suboptions())) return false;
     }
     return true;
 }

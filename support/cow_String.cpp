@@ -8,9 +8,7 @@
 
 #include "support/ZELBasAssert.h"
 
-namespace {
-char g_empty[1] = {0};
-}
+char cow_String::s_empty[1] = {0};
 
 cow_String::Rep* cow_String::allocate(int capacity) {
     void* block = std::malloc(offsetof(Rep, chars) + static_cast<size_t>(capacity) + 1);
@@ -23,10 +21,8 @@ cow_String::Rep* cow_String::allocate(int capacity) {
     return rep;
 }
 
-void cow_String::release() noexcept {
-    if (m_rep && --m_rep->refs == 0) std::free(m_rep);
-    m_rep = nullptr;
-    m_chars = g_empty;
+void cow_String::freeRep(Rep* rep) noexcept {
+    std::free(rep);
 }
 
 void cow_String::assign(char const* text, int length) {
@@ -49,42 +45,6 @@ cow_String::cow_String(char const* text, int length) {
 
 cow_String::cow_String(std::string_view text) {
     assign(text.data(), static_cast<int>(text.size()));
-}
-
-cow_String::cow_String(cow_String const& other) noexcept
-    : m_chars(other.m_chars), m_rep(other.m_rep) {
-    if (m_rep) ++m_rep->refs;
-}
-
-cow_String::cow_String(cow_String&& other) noexcept : m_chars(other.m_chars), m_rep(other.m_rep) {
-    other.m_rep = nullptr;
-    other.m_chars = g_empty;
-}
-
-cow_String& cow_String::operator=(cow_String const& other) noexcept {
-    if (this == &other) return *this;
-    if (other.m_rep) ++other.m_rep->refs;
-    Rep* rep = other.m_rep;
-    char* chars = other.m_chars;
-    release();
-    m_rep = rep;
-    m_chars = chars;
-    return *this;
-}
-
-cow_String& cow_String::operator=(cow_String&& other) noexcept {
-    if (this != &other) {
-        release();
-        m_rep = other.m_rep;
-        m_chars = other.m_chars;
-        other.m_rep = nullptr;
-        other.m_chars = g_empty;
-    }
-    return *this;
-}
-
-cow_String::~cow_String() {
-    release();
 }
 
 cow_String cow_String::FromInt(long long value) {

@@ -19,11 +19,39 @@ class cow_String {
     cow_String(char const* text);  // NOLINT: implicit on purpose, literals flow everywhere
     cow_String(char const* text, int length);
     explicit cow_String(std::string_view text);
-    cow_String(cow_String const& other) noexcept;
-    cow_String(cow_String&& other) noexcept;
-    cow_String& operator=(cow_String const& other) noexcept;
-    cow_String& operator=(cow_String&& other) noexcept;
-    ~cow_String();
+    // Copies, moves and the release are inline: every record of a deck
+    // copies and drops strings, and most of these calls have nothing to
+    // free.
+    cow_String(cow_String const& other) noexcept : m_chars(other.m_chars), m_rep(other.m_rep) {
+        if (m_rep) ++m_rep->refs;
+    }
+    cow_String(cow_String&& other) noexcept : m_chars(other.m_chars), m_rep(other.m_rep) {
+        other.m_rep = nullptr;
+        other.m_chars = s_empty;
+    }
+    cow_String& operator=(cow_String const& other) noexcept {
+        if (this == &other) return *this;
+        if (other.m_rep) ++other.m_rep->refs;
+        Rep* rep = other.m_rep;
+        char* chars = other.m_chars;
+        release();
+        m_rep = rep;
+        m_chars = chars;
+        return *this;
+    }
+    cow_String& operator=(cow_String&& other) noexcept {
+        if (this != &other) {
+            release();
+            m_rep = other.m_rep;
+            m_chars = other.m_chars;
+            other.m_rep = nullptr;
+            other.m_chars = s_empty;
+        }
+        return *this;
+    }
+    ~cow_String() {
+        if (m_rep && --m_rep->refs == 0) freeRep(m_rep);
+    }
 
     // The text form of numbers used throughout the system: decimal integers,
     // and doubles in the shortest form that reads back to the same value.
@@ -90,7 +118,14 @@ class cow_String {
         char chars[1];
     };
     static Rep* allocate(int capacity);
-    void release() noexcept;
+    static void freeRep(Rep* rep) noexcept;
+    void release() noexcept {
+        if (m_rep && --m_rep->refs == 0) freeRep(m_rep);
+        m_rep = nullptr;
+        m_chars = s_empty;
+    }
+    // What a string without a representation points at.
+    static char s_empty[1];
     // Gives this string a private representation able to hold `capacity` characters.
     char* makeWritable(int capacity);
     void assign(char const* text, int length);
