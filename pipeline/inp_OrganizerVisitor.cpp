@@ -101,6 +101,10 @@ void inp_OrganizerVisitor::DefaultAction(inp_Keyword& keyword) {
 
 void inp_OrganizerVisitor::OrganizeAndReport(cow_List<inp_Keyword>&& keywords) {
     cow_List<inp_Keyword> flat = std::move(keywords);
+    // A flat deck puts most of its keywords into the top level: room for
+    // them all spares that list the moves of growing into larger blocks.
+    cow_List<inp_Keyword>& topLevel = m_openKeywords.Get(0).GetSuboptions();
+    if (topLevel.IsEmpty()) topLevel.Reserve(flat.Length());
     while (!flat.IsEmpty()) {
         Visit(flat.Get(0));
         flat.RemoveIndex(0);
