@@ -120,11 +120,15 @@ class inp_Keyword {
     void printDebug(cow_String& out, bool withSuboptions) const;
     bool quotesItemsWithBlanks() const;
 
+    // What every walk of a deck reads of each record, its kind and whether
+    // it has suboptions to descend into, and next what most stages read,
+    // its parameters, come first: together in the record's first bytes,
+    // they mostly lie in one cache line.
     inp_KeywordEnm m_keyword = inp_kw_UndefinedKeyword;
     int m_level = 0;  // a mark that stages may set; copied by every copy
+    cow_List<inp_Keyword> m_suboptions;
     cow_Map<cow_String, inp_Item> m_parameters;
     inp_DataArray m_data;
-    cow_List<inp_Keyword> m_suboptions;
     cow_String m_fileName;
     int m_lineNumber = 0;
     bool m_encrypted = false;

@@ -91,12 +91,15 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
     void checkItem(int i, int j) const;
 
     // Counts first and the first row's tables last, packed so that an array
-    // of one short row fits a small allocation.
+    // of one short row fits a small allocation. What a walk that checks the
+    // shape of each keyword's data reads, the count of rows and the items of
+    // the first, lies in the first bytes.
     int nrows = 0;          // rows in use
     int allocatedSize = 1;  // rows allocated
     int nblocks = 0;
     int allocatedBlocks = 1;
     int nownRows = 0;
+    int firstColumns[1] = {};
     char** rows = firstRow;     // each row's text: in a text block, or a block of its own
     int* ncols = firstColumns;  // items per row
     TextBlock* blocks = firstBlock;
@@ -105,6 +108,5 @@ class inp_RawDataArrayImpl : public inp_DataArrayImpl {
     // The tables' first entries, until a second row or block moves them out.
     char* firstRow[1] = {};
     TextBlock firstBlock[1] = {};
-    int firstColumns[1] = {};
     char inlineText[kInlineText] = {};
 };

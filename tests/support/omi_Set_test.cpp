@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <vector>
 
@@ -73,6 +74,56 @@ TEST(OmiBlkBitVectBits, FarBitsAreSetTestedAndWalked) {
     EXPECT_FALSE(bits.Clear(0));
     bits.ClearAll();
     EXPECT_TRUE(bits.IsEmpty());
+}
+
+}  // namespace
+
+namespace {
+
+// The same values in the same order into a set and into a model: the set
+// answers as the model does while it grows past the members it holds in
+// itself, shrinks, and is copied on either side of that line.
+TEST(OmiSetMembers, SetsOfAFewAndOfManyAnswerAlike) {
+    std::vector<int> const values{40, -7, 13, 0, 999999, -999999, 13, 2, 8, 5, 1, 77, -1, 6, 40};
+    omi_Set set;
+    std::vector<int> model;
+    for (int value : values) {
+        omi_Set const before(set);
+        bool const isNew = std::find(model.begin(), model.end(), value) == model.end();
+        if (isNew) model.insert(std::lower_bound(model.begin(), model.end(), value), value);
+        EXPECT_EQ(set.Insert(value), isNew) << value;
+        EXPECT_EQ(MembersOf(set), model);
+        EXPECT_EQ(set.Size(), static_cast<int64_t>(model.size()));
+        EXPECT_TRUE(set.IsMember(value));
+        EXPECT_FALSE(set.IsMember(123456));
+        // A copy made before the insert is left as it was.
+        EXPECT_EQ(before.Size() + (isNew ? 1 : 0), set.Size());
+        EXPECT_EQ(before.IsMember(value), !isNew);
+    }
+    ASSERT_GT(model.size(), static_cast<size_t>(omi_Set::kFew));
+    for (int value : {13, 13, -999999, 77, 3}) {
+        bool const wasMember = std::find(model.begin(), model.end(), value) != model.end();
+        if (wasMember) model.erase(std::find(model.begin(), model.end(), value));
+        EXPECT_EQ(set.Remove(value), wasMember) << value;
+        EXPECT_EQ(MembersOf(set), model);
+    }
+    set.Clear();
+    EXPECT_TRUE(set.IsEmpty());
+    EXPECT_TRUE(omi_SetIT(set).IsDone());
+    // A cleared set starts again with room for a few in itself.
+    EXPECT_TRUE(set.Insert(5));
+    EXPECT_TRUE(set.Insert(-5));
+    EXPECT_EQ(MembersOf(set), (std::vector<int>{-5, 5}));
+
+    omi_Set few;
+    for (int value : {3, 1, 2}) few.Insert(value);
+    EXPECT_TRUE(few.Remove(2));
+    EXPECT_FALSE(few.Remove(2));
+    EXPECT_EQ(MembersOf(few), (std::vector<int>{1, 3}));
+    omi_SetIT it(few);
+    it.Next();
+    it.First();
+    EXPECT_EQ(it.CurrentItem(), 1);
 }
 
 }  // namespace
