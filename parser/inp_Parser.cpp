@@ -107,8 +107,17 @@ char const* inp_Parser::Readline() {
             if (gcount() != kMaxLineLength) return endOfFile();
             discardRestOfLine();
         }
-        length = std::strlen(m_buffer);
-        if (m_encrypted || hasEncryptionMarker(m_buffer, length)) {
+        // The stored count, not a scan for the terminator: a scan of a line
+        // just copied costs as much as the copy. Everything downstream reads
+        // the line as C text, so a zero byte inside a (binary) line still
+        // ends it; only blanks right before such a byte are not trimmed. The
+        // marker counts only before a zero byte: the second look, on the rare
+        // line that holds it, reads the line as C text.
+        length = storedCount();
+        bool const encryptedLine =
+            m_encrypted || (hasEncryptionMarker(m_buffer, length) &&
+                            hasEncryptionMarker(m_buffer, std::strlen(m_buffer)));
+        if (encryptedLine) {
             bool wasHeader = m_headerPending;
             Decrypt(m_buffer);
             length = std::strlen(m_buffer);

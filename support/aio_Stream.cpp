@@ -57,6 +57,7 @@ aio_istream& aio_istream::getline(char* buffer, int size) {
         }
     }
     if (size > 0) buffer[stored] = '\0';
+    m_stored = stored;
     m_gcount = static_cast<int>(stored) + (tookNewline ? 1 : 0);
     if (m_gcount == 0) newState |= failbit;
     setstate(newState);

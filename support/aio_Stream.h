@@ -66,6 +66,9 @@ class aio_istream : public aio_ios {
     int peek();
     // Characters taken by the last getline() or get(), a taken newline included.
     int gcount() const noexcept { return m_gcount; }
+    // Characters stored by the last getline(), without its terminating zero:
+    // the stored line's length unless the line holds a zero byte itself.
+    size_t storedCount() const noexcept { return m_stored; }
 
   protected:
     // Makes the next characters of the input available through setWindow and
@@ -86,6 +89,7 @@ class aio_istream : public aio_ios {
     char const* m_next = nullptr;
     char const* m_end = nullptr;
     int m_gcount = 0;
+    size_t m_stored = 0;
 };
 
 // Reads a file through POSIX open/read into a large buffer of its own: one

@@ -116,3 +116,22 @@ TEST_F(ParserEncrypted, TheMarkerAnywhereInALineAsksForThePassword) {
         EXPECT_TRUE(r.errors.IsEmpty() && r.fatalErrors.IsEmpty()) << line;
     }
 }
+
+// A zero byte ends a line's text: a marker behind it is no marker, one in
+// front of it is, in short lines and long ones alike.
+TEST_F(ParserEncrypted, TheMarkerCountsOnlyBeforeAZeroByte) {
+    using namespace std::string_literals;
+    std::string const longFront = "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13";
+    for (std::string const& line : {"1\0 ** encrypted input"s, longFront + "\0** encrypted input"s,
+                                    "1 ** encrypted\0 input"s}) {
+        EncryptedResult r = parseMain("*NODE\n" + line + "\n*STEP\n");
+        EXPECT_TRUE(r.errors.IsEmpty() && r.fatalErrors.IsEmpty());
+        ASSERT_EQ(r.keywords.Length(), 2);
+        EXPECT_EQ(r.keywords.ConstGet(0).Data().Rows(), 1);
+    }
+    for (std::string const& line : {"** encrypted input\0 and so on"s,
+                                    longFront + " ** encrypted input\0 x"s}) {
+        EncryptedResult r = parseMain("*NODE\n" + line + "\n*STEP\n");
+        EXPECT_EQ(r.errors.Length() + r.fatalErrors.Length(), 1);
+    }
+}

@@ -55,6 +55,22 @@ TEST_F(ParserLines, KeywordLinesInAnyCaseAndIndentation) {
     EXPECT_TRUE(r.errors.IsEmpty() && r.warnings.IsEmpty() && r.fatalErrors.IsEmpty());
 }
 
+// A line is C text to everything after the reader: a zero byte ends it,
+// whatever follows on the line, and the blanks around the line are trimmed.
+TEST_F(ParserLines, AZeroByteEndsTheLine) {
+    using namespace std::string_literals;
+    ParseResult r = parseText("  *NSET, NSET=A\0, GENERATE  \n1, 2\0, 3\n  \0 *STEP\n*NSET, NSET=B\n"s);
+    ASSERT_EQ(r.keywords.Length(), 2);
+    inp_Keyword const& first = r.keywords.ConstGet(0);
+    EXPECT_EQ(first.GetParameterAsString("nset", cow_String()), "A");
+    EXPECT_FALSE(first.HasParameter("generate"));
+    ASSERT_EQ(first.Data().Rows(), 2);
+    EXPECT_EQ(first.Data().Cols(0), 2);
+    EXPECT_EQ(first.Data().AsInt(0, 1), 2);
+    EXPECT_EQ(first.Data().AsStringVerbatim(1, 0), "");
+    EXPECT_EQ(r.keywords.ConstGet(1).LineNumber(), 4);
+}
+
 TEST_F(ParserLines, LineOf256IsKeptAnd257IsTruncatedWithAWarning) {
     std::string exact = "1," + std::string(254, '2');
     std::string tooLong = "3," + std::string(255, '4');

@@ -36,10 +36,13 @@ struct Line {
     bool fail;
 };
 
-// The characters stored by the last getline: a taken newline is counted by
-// gcount but not stored, and it was taken exactly when no state bit came up.
+// The characters stored by the last getline, as the stream tells them: a
+// taken newline is counted by gcount but not stored, and it was taken exactly
+// when no state bit came up.
 int storedCount(aio_istream const& in) {
-    return in.good() ? in.gcount() - 1 : in.gcount();
+    int const stored = static_cast<int>(in.storedCount());
+    EXPECT_EQ(stored, in.good() ? in.gcount() - 1 : in.gcount());
+    return stored;
 }
 
 Line readLine(aio_ifstream& in, int size) {
@@ -157,9 +160,11 @@ TEST(AioIfstreamGetline, ZeroBytesInsideALineAreStored) {
     char buffer[16];
     in.getline(buffer, sizeof buffer);
     ASSERT_EQ(in.gcount(), 5);
+    EXPECT_EQ(in.storedCount(), 4u);
     EXPECT_EQ(std::memcmp(buffer, "a\0b\0\0", 5), 0);
     in.getline(buffer, sizeof buffer);
     EXPECT_STREQ(buffer, "c");
+    EXPECT_EQ(in.storedCount(), 1u);
 }
 
 TEST(AioIfstreamGetline, BinaryContentReadInPiecesReassemblesExactly) {
