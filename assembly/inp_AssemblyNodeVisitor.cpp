@@ -159,7 +159,7 @@ void inp_AssemblyNodeVisitor::VisitEndInstance(inp_Keyword& keyword) {
 // itself: here only the set's name is made known, as an empty set.
 void inp_AssemblyNodeVisitor::VisitNset(inp_Keyword& keyword) {
     if (m_symmetricGenerationJob && keyword.HasParameter("elset")) {
-        inp_Keyword nameOnly(keyword.Keyword(), keyword.FileName());
+        inp_Keyword nameOnly(keyword.Keyword(), keyword.Origin().WithoutComments());
         nameOnly.SetLineNumber(keyword.LineNumber());
         if (inp_Item const* name = keyword.Parameters().Find("nset"))
             nameOnly.SetParameter("nset", *name);

@@ -25,7 +25,7 @@ bool isRigidElementType(cow_String const& type) {
 // Only the keyword, file and line of `keyword`: what a message title needs,
 // without holding the keyword's data or suboptions alive.
 inp_Keyword locationOf(inp_Keyword const& keyword) {
-    inp_Keyword location(keyword.Keyword(), keyword.FileName());
+    inp_Keyword location(keyword.Keyword(), keyword.Origin().WithoutComments());
     location.SetLineNumber(keyword.LineNumber());
     return location;
 }

@@ -42,7 +42,7 @@ bool inp_Keyword::hasSuboption(inp_KeywordEnm keyword) const {
 }
 
 inp_Keyword inp_Keyword::DeepCopy() const {
-    inp_Keyword copy(m_keyword, m_fileName);
+    inp_Keyword copy(m_keyword, m_origin.WithoutComments());
     copy.m_level = m_level;
     copy.m_parameters = m_parameters;
     copy.m_data = m_data.Copy();
@@ -146,3 +146,7 @@ cow_String inp_Keyword::Print(bool withSuboptions) const {
     printDebug(out, withSuboptions);
     return out;
 }
+
+// Walks over decks of a million keywords read every record: one that fits a
+// cache line costs one line of memory traffic.
+static_assert(sizeof(inp_Keyword) <= 64, "a keyword record should fit in a cache line");

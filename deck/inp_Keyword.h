@@ -11,6 +11,7 @@
 
 #include "deck/inp_DataArray.h"
 #include "deck/inp_Item.h"
+#include "deck/inp_KeywordOrigin.h"
 #include "deck/inp_keywords.h"
 #include "support/cow_List.h"
 #include "support/cow_Map.h"
@@ -27,7 +28,9 @@ class inp_Keyword {
     explicit inp_Keyword(cow_String const& name);
     explicit inp_Keyword(inp_KeywordEnm keyword) : m_keyword(keyword) {}
     inp_Keyword(inp_KeywordEnm keyword, cow_String const& fileName)
-        : m_keyword(keyword), m_fileName(fileName) {}
+        : m_keyword(keyword), m_origin(fileName) {}
+    inp_Keyword(inp_KeywordEnm keyword, inp_KeywordOrigin const& origin)
+        : m_keyword(keyword), m_origin(origin) {}
 
     inp_KeywordEnm Keyword() const { return m_keyword; }
     // Setting 0 blanks the record: later stages pass it over and drop it.
@@ -88,15 +91,18 @@ class inp_Keyword {
     // its suboptions. Defined with the visitor base, in pipeline/inp_Visitor.cpp.
     void Accept(inp_Visitor& visitor);
 
-    cow_String const& FileName() const { return m_fileName; }
-    void SetFileName(cow_String const& fileName) { m_fileName = fileName; }
+    cow_String const& FileName() const { return m_origin.FileName(); }
+    void SetFileName(cow_String const& fileName) { m_origin.SetFileName(fileName); }
     int LineNumber() const { return m_lineNumber; }
     void SetLineNumber(int line) { m_lineNumber = line; }
     bool IsEncrypted() const { return m_encrypted; }
     void SetEncrypted(bool encrypted) { m_encrypted = encrypted; }
-    cow_List<cow_String> const& Comments() const { return m_comments; }
-    void SetComments(cow_List<cow_String> const& comments) { m_comments = comments; }
-    void AddComment(cow_String const& comment) { m_comments.Append(comment); }
+    cow_List<cow_String> const& Comments() const { return m_origin.Comments(); }
+    void SetComments(cow_List<cow_String> const& comments) { m_origin.SetComments(comments); }
+    void AddComment(cow_String const& comment) { m_origin.AddComment(comment); }
+    // The file name and comments together, as records of one file share them.
+    inp_KeywordOrigin const& Origin() const { return m_origin; }
+    void SetOrigin(inp_KeywordOrigin const& origin) { m_origin = origin; }
     bool FromScripting() const { return m_fromScripting; }
     void SetFromScripting(bool fromScripting) { m_fromScripting = fromScripting; }
 
@@ -129,10 +135,10 @@ class inp_Keyword {
     cow_List<inp_Keyword> m_suboptions;
     cow_Map<cow_String, inp_Item> m_parameters;
     inp_DataArray m_data;
-    cow_String m_fileName;
+    inp_KeywordOrigin m_origin;
     int m_lineNumber = 0;
     bool m_encrypted = false;
-    // Beside the other small fields: a deck holds millions of records.
+    // Beside the other small fields: a deck holds millions of records, and
+    // one of 64 bytes is read in one cache line's worth of memory.
     bool m_fromScripting = false;
-    cow_List<cow_String> m_comments;
 };

@@ -68,6 +68,7 @@ inp_Parser::inp_Parser(cow_String fileName, cow_String includePath, cow_List<cow
                        cow_String password, bool strictDecryption, bool bulk, bool forScripting)
     : aio_ifstream(kReadBufferSize),
       m_fileName(fileName),
+      m_origin(fileName),
       m_includePath(includePath),
       m_password(password),
       m_encrypted(!password.IsEmpty()),
@@ -232,10 +233,10 @@ inp_Keyword inp_Parser::ParseKeyword(bool strict) {
 
     inp_Keyword keyword;
     keyword.SetLineNumber(lineNumber);
-    keyword.SetFileName(m_fileName);
+    keyword.SetOrigin(m_origin);
     keyword.SetEncrypted(m_encrypted);
     keyword.SetFromScripting(forScripting);
-    keyword.SetComments(m_comments);
+    if (!m_comments.IsEmpty()) keyword.SetComments(m_comments);
     m_comments.Clear();
     m_commentsPending = false;
 

@@ -105,6 +105,9 @@ class inp_Parser : public aio_ifstream {
 
     int m_lineNumber = 0;
     cow_String m_fileName;
+    // The file name every keyword of this file shares (a commented keyword
+    // has an origin of its own, with its comments).
+    inp_KeywordOrigin m_origin;
     cow_String m_includePath;
     bool m_stashed = false;
     bool m_endOfFile = false;

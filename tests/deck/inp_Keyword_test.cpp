@@ -149,6 +149,44 @@ TEST(KeywordCopy, DeepCopySeparatesDataRecursivelyAndDropsComments) {
     EXPECT_FALSE(copy.hasSuboption(inp_kw_Elastic));
 }
 
+// Records share their file name and comments; a change to one record's
+// never shows in another, in either direction, and setting what a record
+// already holds keeps it sharing.
+TEST(KeywordOrigin, SharedFileNamesAndCommentsChangeOnlyTheRecordWritten) {
+    inp_KeywordOrigin const file(cow_String("deck.inp"));
+    inp_Keyword first(inp_kw_Nset, file);
+    inp_Keyword second(inp_kw_Elset, file);
+    EXPECT_TRUE(first.Origin().SharesWith(second.Origin()));
+
+    second.AddComment(" the second");
+    first.SetFileName("other.inp");
+    EXPECT_EQ(first.FileName(), "other.inp");
+    EXPECT_TRUE(first.Comments().IsEmpty());
+    EXPECT_EQ(second.FileName(), "deck.inp");
+    ASSERT_EQ(second.Comments().Length(), 1);
+    EXPECT_EQ(second.Comments().ConstGet(0), " the second");
+    EXPECT_EQ(file.FileName(), "deck.inp");
+    EXPECT_TRUE(file.Comments().IsEmpty());
+
+    inp_Keyword third = second;
+    third.SetComments(cow_List<cow_String>());
+    EXPECT_EQ(second.Comments().Length(), 1);
+    EXPECT_EQ(third.FileName(), "deck.inp");
+    EXPECT_TRUE(third.Comments().IsEmpty());
+
+    inp_Keyword fourth(inp_kw_Node, file);
+    fourth.SetFileName(cow_String("deck.inp"));
+    fourth.SetComments(cow_List<cow_String>());
+    EXPECT_TRUE(fourth.Origin().SharesWith(file));
+
+    inp_Keyword blank;
+    EXPECT_TRUE(blank.FileName().IsEmpty());
+    EXPECT_TRUE(blank.Comments().IsEmpty());
+    blank.AddComment(" first words");
+    EXPECT_EQ(blank.Comments().Length(), 1);
+    EXPECT_TRUE(inp_Keyword().Comments().IsEmpty());
+}
+
 TEST(KeywordPrint, WritesDeckTextWithQuotedSetItemsAndNoValueForFlags) {
     inp_Keyword nset(inp_kw_Nset);
     nset.SetParameter("nset", text("top"));

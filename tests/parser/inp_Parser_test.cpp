@@ -166,6 +166,23 @@ TEST_F(ParserComments, OnlyCommentsDirectlyBeforeAKeywordAreKept) {
     EXPECT_EQ(r.keywords.ConstGet(1).Comments().ConstGet(0), " after data");
 }
 
+// The keywords of a file without comments share one origin; a commented one
+// has its own, and its comments stay with it.
+TEST_F(ParserComments, UncommentedKeywordsShareTheirFileAndCommentedOnesStandApart) {
+    ParseResult r = parseText("*NSET, NSET=A\n1\n** note\n*NSET, NSET=B\n2\n*NSET, NSET=C\n3\n");
+    ASSERT_EQ(r.keywords.Length(), 3);
+    inp_Keyword const& a = r.keywords.ConstGet(0);
+    inp_Keyword const& b = r.keywords.ConstGet(1);
+    inp_Keyword const& c = r.keywords.ConstGet(2);
+    EXPECT_TRUE(a.Origin().SharesWith(c.Origin()));
+    EXPECT_FALSE(a.Origin().SharesWith(b.Origin()));
+    for (inp_Keyword const* keyword : {&a, &b, &c})
+        EXPECT_TRUE(keyword->FileName().EndsWith("deck.inp"));
+    ASSERT_EQ(b.Comments().Length(), 1);
+    EXPECT_EQ(b.Comments().ConstGet(0), " note");
+    EXPECT_TRUE(a.Comments().IsEmpty() && c.Comments().IsEmpty());
+}
+
 using ParserParameters = ParserTest;
 
 TEST_F(ParserParameters, NamesFoldAndValuesAreTyped) {
