@@ -48,6 +48,22 @@ cow_String assemblyNameOf(inp_InputFile const& deck) {
     return cow_String();
 }
 
+// Whether the import validity walk may have something to say about the
+// keyword or what lies below it: an assembly or part (import parameters), an
+// instance (which may open an imported component), an *IMPORT. Everything
+// else the walk passes by unless a component is open, which only those open.
+bool mayConcernImport(inp_Keyword const& keyword) {
+    switch (keyword.Keyword()) {
+        case inp_kw_Assembly:
+        case inp_kw_Part:
+        case inp_kw_Instance:
+        case inp_kw_Import:
+            return true;
+        default:
+            return !keyword.Suboptions().IsEmpty();
+    }
+}
+
 }  // namespace
 
 // `continuation`: the job has (or the caller vouches for) the part map of an
@@ -56,9 +72,11 @@ void inp_InputFile::CheckImportValidity(bool continuation) {
     wip_WIP& sink = thr_ThreadSingleton<wip_WIP>::Instance();
     bool import = false;
     bool mapSolution = false;
+    bool walkMayFindSomething = false;
     for (inp_Keyword const& keyword : m_keywords) {
         import |= keyword.Is(inp_kw_Import);
         mapSolution |= keyword.Is(inp_kw_MapSolution);
+        walkMayFindSomething |= mayConcernImport(keyword);
     }
     if (import && mapSolution)
         sink.Error("*IMPORT and *MAP SOLUTION (rezoning) cannot be used in the same analysis. ",
@@ -68,6 +86,9 @@ void inp_InputFile::CheckImportValidity(bool continuation) {
             "An import analysis requires the part map from a previous job. Please use the "
             "-oldpartmap command line option to specify it.",
             wip_LEVEL1);
+    // The walk only speaks, or blanks a keyword, once it has met one of the
+    // keywords that write or open an import; a deck without them is spared it.
+    if (!walkMayFindSomething) return;
     inp_ImportValidityVisitor validity;
     validity.VisitListAndReport(m_keywords);
 }

@@ -271,6 +271,43 @@ TEST_F(ContinuationJobs, AnImportNeedsThePartMapOfAnEarlierJob) {
               std::string::npos);
 }
 
+// The walk of the import check is spared only to decks that neither write
+// nor open an import: an imported instance, at the top of the list or in a
+// keyword's suboptions, still has its content made dead.
+TEST_F(ContinuationJobs, TheImportWalkFindsAnImportedInstanceWhereverItStands) {
+    auto nodeIsDead = [this] {
+        for (inp_Keyword const& keyword : input.Keywords())
+            if (keyword.Is(inp_kw_Node)) return false;
+        return true;
+    };
+    add("nset", "1");
+    input.CheckImportValidity(true);
+    EXPECT_EQ(input.Keywords().Length(), 1);
+    EXPECT_TRUE(input.Keywords().ConstGet(0).Is(inp_kw_Nset));
+
+    inp_Keyword instance(inp_kw_Instance);
+    instance.SetParameter("name", inp_Item(cow_String("I")));
+    instance.SetParameter("instance", inp_Item(cow_String("I")));
+    instance.SetParameter("library", inp_Item(cow_String("OLD")));
+    input.GetKeywords().Append(instance);
+    add("node", "1, 0., 0.");
+    add("import");
+    add("endinstance");
+    input.CheckImportValidity(true);
+    input.DiscardEmptyKeywords();
+    EXPECT_TRUE(nodeIsDead());
+
+    sink().Clear();
+    input.GetKeywords().Clear();
+    inp_Keyword& holder = add("nset");
+    holder.GetSuboptions().Append(instance);
+    holder.GetSuboptions().Append(inp_Keyword(inp_kw_Node));
+    holder.GetSuboptions().Append(inp_Keyword(inp_kw_EndInstance));
+    input.CheckImportValidity(true);
+    EXPECT_TRUE(holder.Suboptions().ConstGet(1).Is(inp_kw_UndefinedKeyword));
+    sink().Clear();
+}
+
 TEST_F(ContinuationJobs, ARestartIsPlainUnlessItAddsMoreThanStepData) {
     run("*STEP\n*STATIC\n*END STEP\n");
     input.ClassifyRestartJob();
