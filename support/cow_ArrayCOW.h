@@ -28,6 +28,14 @@ class cow_ArrayCOW {
     explicit cow_ArrayCOW(T* owned) : m_handle(owned) {}
     // A handle on a clone of the value.
     cow_ArrayCOW(T const& value) : m_handle(Policy::Clone(value)) {}  // NOLINT: value to handle
+    // A handle on a new `Made` (T or a class derived from it) made from
+    // `args` in one block with its count.
+    template <class Made, class... Args>
+    static cow_ArrayCOW Make(Args&&... args) {
+        cow_ArrayCOW made;
+        made.m_handle = cow_CountedHld<T>::template Make<Made>(std::forward<Args>(args)...);
+        return made;
+    }
 
     bool IsNull() const noexcept { return m_handle.IsNull(); }
 

@@ -48,9 +48,9 @@ omi_Set const& inpM_OmiSet::emptySet() {
 
 omi_Set& inpM_OmiSet::writableSet() {
     if (m_set.IsNull()) {
-        m_set.Reset(new omi_Set());
+        m_set = cow_CountedHld<omi_Set>::Make();
     } else if (m_set.UseCount() > 1) {
-        m_set.Reset(new omi_Set(*m_set));
+        m_set = cow_CountedHld<omi_Set>::Make(*m_set);
     }
     return *m_set;
 }

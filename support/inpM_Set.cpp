@@ -159,10 +159,9 @@ inpM_SetHandle CreateSet(cow_List<int> const& ids, bool internal, bool unsorted)
 }
 
 inpM_SetHandle CreateSet(cow_List<int> const& ids, inpM_SetTypeFlag type, bool unsorted) {
-    if (unsorted) return inpM_SetHandle(new inpM_UnsortedSet(ids, type));
-    auto* set = new inpM_SortedSet(type);
-    inpM_SetHandle handle(set);
-    set->Add(ids);
+    if (unsorted) return inpM_SetHandle::Make<inpM_UnsortedSet>(ids, type);
+    inpM_SetHandle handle = inpM_SetHandle::Make<inpM_SortedSet>(type);
+    if (!ids.IsEmpty()) handle.Get().Add(ids);
     return handle;
 }
 

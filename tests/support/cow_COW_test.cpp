@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 namespace {
@@ -70,6 +71,48 @@ TEST(CowCountedHld, ResetOfTheOnlyOwnerDeletesTheOldObjectOnce) {
         EXPECT_TRUE(handle.IsNull());
     }
     EXPECT_EQ(deaths, 2);
+}
+
+// Handles of objects made in one block with their count behave as handles of
+// objects made apart: shared, counted, destroyed once through the base, and
+// mixed freely with the others.
+TEST(CowCountedHld, ObjectsMadeWithTheirCountAreSharedAndDestroyedOnce) {
+    int deaths = 0;
+    {
+        auto made = cow_CountedHld<Shape>::Make<Square>(&deaths);
+        EXPECT_EQ(made.UseCount(), 1);
+        cow_CountedHld<Shape> copy(made);
+        cow_CountedHld<Shape> apart(new Square(&deaths));
+        EXPECT_EQ(made.UseCount(), 2);
+        EXPECT_TRUE(copy.SharesWith(made));
+        EXPECT_FALSE(apart.SharesWith(made));
+        EXPECT_EQ(copy->Corners(), 4);
+
+        apart.swap(copy);
+        EXPECT_TRUE(apart.SharesWith(made));
+        EXPECT_EQ(copy.UseCount(), 1);
+        made.Reset(nullptr);
+        EXPECT_EQ(deaths, 0);
+        EXPECT_EQ(apart.UseCount(), 1);
+        apart = copy;  // the last handle of the made object lets it go
+        EXPECT_EQ(deaths, 1);
+        EXPECT_EQ(apart.UseCount(), 2);
+    }
+    EXPECT_EQ(deaths, 2);
+
+    auto text = cow_CountedHld<std::string>::Make(32, 'x');
+    cow_CountedHld<std::string> moved(std::move(text));
+    EXPECT_TRUE(text.IsNull());
+    EXPECT_EQ(*moved, std::string(32, 'x'));
+}
+
+// A constructor that throws leaves nothing behind (the leak check of the
+// sanitizer build would see the block) and the exception reaches the caller.
+TEST(CowCountedHld, AnObjectWhoseConstructionFailsTakesItsBlockAlong) {
+    struct Refuses {
+        explicit Refuses(int) { throw std::runtime_error("refused"); }
+    };
+    EXPECT_THROW(cow_CountedHld<Refuses>::Make(1), std::runtime_error);
 }
 
 TEST(CowCOW, WriteThroughCopyDoesNotShowInOriginal) {
