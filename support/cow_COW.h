@@ -126,7 +126,8 @@ class cow_CountedHld {
         return (reinterpret_cast<std::uintptr_t>(m_count) & 1u) != 0;
     }
     int* count() const noexcept {
-        return reinterpret_cast<int*>(reinterpret_cast<std::uintptr_t>(m_count) & ~std::uintptr_t{1});
+        return reinterpret_cast<int*>(reinterpret_cast<std::uintptr_t>(m_count) &
+                                      ~std::uintptr_t{1});
     }
     // Out of line, like the drop of a separate count: the compiler would
     // otherwise see the block freed by one handle and read by another.
@@ -156,7 +157,7 @@ class cow_COW {
   public:
     cow_COW() : m_handle(cow_CountedHld<T>::Make()) {}
     cow_COW(T const& value) : m_handle(copyOf(value)) {}  // NOLINT: a value converts to its handle
-    cow_COW(T&& value)  // NOLINT: as above
+    cow_COW(T&& value)                                    // NOLINT: as above
         : m_handle(cow_CountedHld<T>::Make(std::move(value))) {}
     // Takes ownership of an object made by the caller (e.g. a derived one).
     explicit cow_COW(T* owned) : m_handle(owned) {}

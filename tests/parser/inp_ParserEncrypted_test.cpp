@@ -129,8 +129,8 @@ TEST_F(ParserEncrypted, TheMarkerCountsOnlyBeforeAZeroByte) {
         ASSERT_EQ(r.keywords.Length(), 2);
         EXPECT_EQ(r.keywords.ConstGet(0).Data().Rows(), 1);
     }
-    for (std::string const& line : {"** encrypted input\0 and so on"s,
-                                    longFront + " ** encrypted input\0 x"s}) {
+    for (std::string const& line :
+         {"** encrypted input\0 and so on"s, longFront + " ** encrypted input\0 x"s}) {
         EncryptedResult r = parseMain("*NODE\n" + line + "\n*STEP\n");
         EXPECT_EQ(r.errors.Length() + r.fatalErrors.Length(), 1);
     }

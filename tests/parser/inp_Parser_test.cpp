@@ -59,7 +59,8 @@ TEST_F(ParserLines, KeywordLinesInAnyCaseAndIndentation) {
 // whatever follows on the line, and the blanks around the line are trimmed.
 TEST_F(ParserLines, AZeroByteEndsTheLine) {
     using namespace std::string_literals;
-    ParseResult r = parseText("  *NSET, NSET=A\0, GENERATE  \n1, 2\0, 3\n  \0 *STEP\n*NSET, NSET=B\n"s);
+    ParseResult r =
+        parseText("  *NSET, NSET=A\0, GENERATE  \n1, 2\0, 3\n  \0 *STEP\n*NSET, NSET=B\n"s);
     ASSERT_EQ(r.keywords.Length(), 2);
     inp_Keyword const& first = r.keywords.ConstGet(0);
     EXPECT_EQ(first.GetParameterAsString("nset", cow_String()), "A");
