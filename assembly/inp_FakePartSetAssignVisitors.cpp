@@ -311,9 +311,9 @@ cow_List<inp_Keyword> inp_FakePartSetAssignVisitor::CreatePartSets(
 
 void inp_FakePartSetAssignVisitor::AddSets(inp_ReferenceKind kind, cow_String const& part,
                                            cow_String const& name) {
-    inpM_SetMap const& sets = FakeSets(kind);
-    if (Result(kind).HasNestedSet(part, name) || !sets.HasNestedSet(fake(), name)) return;
-    Result(kind).InsertNestedSet(part, name, sets.ConstGetNestedSet(fake(), name));
+    if (Result(kind).HasNestedSet(part, name)) return;
+    if (inpM_SetHandle const* set = FakeSets(kind).FindNestedSet(fake(), name))
+        Result(kind).InsertNestedSet(part, name, *set);
 }
 
 // A set that no part used, whose members all lie in one part, is that

@@ -102,8 +102,8 @@ void inp_SetVisitor::addSet(cow_String const& scope, cow_String const& name,
     inpM_SetHandle const* existing = nullptr;
     if (assembly)
         existing = sets.ConstGetSetMap().Find(name);
-    else if (sets.HasNestedSet(scope, name))
-        existing = &sets.ConstGetNestedSet(scope, name);
+    else
+        existing = sets.FindNestedSet(scope, name);
 
     inpM_SetHandle stored = set;
     if (!replace && existing) {
@@ -203,8 +203,8 @@ inpM_SetHandle inp_SetVisitor::readIdsAndSetNames(inp_Keyword const& keyword, bo
                         take(*m_setMap.ConstGetSet(name), true);
                     else
                         take(*m_setMap.ConstGetNestedSet(scope, name), false);
-                } else if (m_setMap.HasNestedSet(CurrentName(), name)) {
-                    take(*m_setMap.ConstGetNestedSet(CurrentName(), name), false);
+                } else if (auto const* found = m_setMap.FindNestedSet(CurrentName(), name)) {
+                    take(**found, false);
                 } else {
                     missing.Append(name);
                 }
@@ -349,8 +349,9 @@ inpM_SetHandle inp_SetVisitor::readAssemblyIdsAndSetNames(inpM_SetMap const& set
                     ids.Append(data.AsInt(i, j));
                 } else if (name && sets.HasSet(value)) {
                     take(cow_String(), *sets.ConstGetSet(value));
-                } else if (name && sets.HasNestedSet(kFakeInstance, value)) {
-                    take(kFakeInstance, *sets.ConstGetNestedSet(kFakeInstance, value));
+                } else if (auto const* found =
+                               name ? sets.FindNestedSet(kFakeInstance, value) : nullptr) {
+                    take(kFakeInstance, **found);
                 } else {
                     missing.Append(value);
                 }
@@ -377,8 +378,8 @@ inpM_SetHandle inp_SetVisitor::readAssemblyIdsAndSetNames(inpM_SetMap const& set
                 instance = inpM_Utils::RemoveQuotes(instance);
                 name = inpM_Utils::RemoveQuotes(name);
             }
-            if (sets.HasNestedSet(instance, name))
-                take(instance, *sets.ConstGetNestedSet(instance, name));
+            if (auto const* found = sets.FindNestedSet(instance, name))
+                take(instance, **found);
             else
                 missing.Append(value);
         }
@@ -395,8 +396,7 @@ inpM_SetHandle inp_SetVisitor::readAssemblyIdsAndSetNames(inpM_SetMap const& set
 
 inpM_SetHandle const* inp_SetVisitor::existingPartSet(cow_String const& name) const {
     ZELBAS_ASSERT_TEXT(CurrentName().Length() > 0, "currentName.Length() > 0");
-    if (!m_setMap.HasNestedSet(CurrentName(), name)) return nullptr;
-    return &m_setMap.ConstGetNestedSet(CurrentName(), name);
+    return m_setMap.FindNestedSet(CurrentName(), name);
 }
 
 // The block's result replaces the set in this visitor's own map, so that is

@@ -152,7 +152,7 @@ void forEachMemberName(inp_Keyword const& keyword, Take take) {
 
 inpM_SetHandle const* findNestedSet(inpM_SetMap const& sets, cow_String const& scope,
                                     cow_String const& name) {
-    return sets.HasNestedSet(scope, name) ? &sets.ConstGetNestedSet(scope, name) : nullptr;
+    return sets.FindNestedSet(scope, name);
 }
 
 }  // namespace
