@@ -25,7 +25,7 @@ inp_KeywordOrigin::Shared& inp_KeywordOrigin::writable() {
 // Setting what the origin already holds changes nothing, so that records
 // given the same name again go on sharing.
 void inp_KeywordOrigin::SetFileName(cow_String const& fileName) {
-    if (FileName().SharesWith(fileName) || FileName() == fileName) return;
+    if (FileName() == fileName) return;
     writable().fileName = fileName;
 }
 

@@ -150,11 +150,6 @@ void forEachMemberName(inp_Keyword const& keyword, Take take) {
     }
 }
 
-inpM_SetHandle const* findNestedSet(inpM_SetMap const& sets, cow_String const& scope,
-                                    cow_String const& name) {
-    return sets.FindNestedSet(scope, name);
-}
-
 }  // namespace
 
 // -- GetAreaOrFaceId --------------------------------------------------------------------
@@ -413,8 +408,8 @@ void inp_SurfaceVisitor::CreateInstanceLevelSurface(inp_Keyword& keyword) {
 // A scope named in quotes holds its sets under the name without them.
 void inp_SurfaceVisitor::addSetOfScope(RowReader& rows, cow_String const& name) {
     inpM_SetMap const& sets = m_nodeSurface ? m_nodeSets : m_elementSets;
-    inpM_SetHandle const* set = findNestedSet(sets, CurrentScope(), name);
-    if (set == nullptr) set = findNestedSet(sets, inpM_Utils::RemoveQuotes(CurrentScope()), name);
+    inpM_SetHandle const* set = sets.FindNestedSet(CurrentScope(), name);
+    if (set == nullptr) set = sets.FindNestedSet(inpM_Utils::RemoveQuotes(CurrentScope()), name);
     if (set == nullptr) {
         rows.MissingSets().Append(name);
         return;
@@ -537,10 +532,10 @@ void inp_SurfaceVisitor::addScopedValue(RowReader& rows, inpM_AssemblyInstanceSu
         }
         inpM_SetMap const& sets = m_nodeSurface ? m_nodeSets : m_elementSets;
         cow_String instance = pieces[n - 2];
-        inpM_SetHandle const* set = findNestedSet(sets, instance, pieces[n - 1]);
+        inpM_SetHandle const* set = sets.FindNestedSet(instance, pieces[n - 1]);
         if (set == nullptr) {
             instance = inpM_Utils::RemoveQuotes(instance);
-            set = findNestedSet(sets, instance, inpM_Utils::RemoveQuotes(pieces[n - 1]));
+            set = sets.FindNestedSet(instance, inpM_Utils::RemoveQuotes(pieces[n - 1]));
         }
         if (set != nullptr)
             rows.AddIds(instance, (*set)->ConstGetIdList());

@@ -236,7 +236,7 @@ inp_Keyword inp_Parser::ParseKeyword(bool strict) {
     keyword.SetOrigin(m_origin);
     keyword.SetEncrypted(m_encrypted);
     keyword.SetFromScripting(forScripting);
-    if (!m_comments.IsEmpty()) keyword.SetComments(m_comments);
+    keyword.SetComments(m_comments);
     m_comments.Clear();
     m_commentsPending = false;
 

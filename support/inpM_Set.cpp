@@ -161,7 +161,7 @@ inpM_SetHandle CreateSet(cow_List<int> const& ids, bool internal, bool unsorted)
 inpM_SetHandle CreateSet(cow_List<int> const& ids, inpM_SetTypeFlag type, bool unsorted) {
     if (unsorted) return inpM_SetHandle::Make<inpM_UnsortedSet>(ids, type);
     inpM_SetHandle handle = inpM_SetHandle::Make<inpM_SortedSet>(type);
-    if (!ids.IsEmpty()) handle.Get().Add(ids);
+    handle.Get().Add(ids);
     return handle;
 }
 
