@@ -476,11 +476,18 @@ void inp_SimpleFakeAssignVisitor::Keywords(cow_List<inp_Keyword>& list) {
         Result(kind) = FakeSets(kind);
         Result(kind).ChangeInstanceName(fake(), part);
         if (m_suppressSetKeywords || !FakeSets(kind).HasInstance(fake())) continue;
-        cow_List<cow_String> names;
+        int const position = GetInsertPosition(list, part);
+        if (position < 0) continue;
+        // Every set of the flat deck, in name order, straight from the map's
+        // walk: no search of the name tree per set.
+        cow_List<inp_Keyword> keywords;
         for (inpM_BaseSetMapSIT it(FakeSets(kind).ConstGetNestedSetMap(fake())); it.NotDone();
-             it.Next())
-            names.Append(it.CurrentKey());
-        InsertPartSets(list, kind, part, names);
+             it.Next()) {
+            inpM_SetHandle const& set = it.CurrentValue();
+            if (set->IsEmpty()) continue;
+            keywords.Append(CreateSetKeyword(kind, false, it.CurrentKey(), *set));
+        }
+        list.InsertList(position, keywords);
     }
     if (m_parameters.isSymModelGen()) RearrangeNsetKeywords(list);
 }

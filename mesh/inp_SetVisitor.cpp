@@ -99,18 +99,19 @@ void inp_SetVisitor::addSet(cow_String const& scope, cow_String const& name,
                             inpM_SetHandle const& set, inpM_SetMap& sets, bool replace) {
     if (!checkSetName(name) || set.IsNull()) return;
     bool const assembly = scope.IsEmpty();
+    bool const debugging = debugSets();
+    // A replacing set needs the one it replaces only for the debug line: in a
+    // deck of a million sets each search of the name tree is a cost of its own.
     inpM_SetHandle const* existing = nullptr;
-    if (assembly)
-        existing = sets.ConstGetSetMap().Find(name);
-    else
-        existing = sets.FindNestedSet(scope, name);
+    if (!replace || debugging)
+        existing = assembly ? sets.ConstGetSetMap().Find(name) : sets.FindNestedSet(scope, name);
 
     inpM_SetHandle stored = set;
     if (!replace && existing) {
         stored = *existing;  // the copy takes the union; sharers keep the old set
         stored.Get().Add(*set);
     }
-    if (debugSets()) {
+    if (debugging) {
         pnt_debugPrint().StartDebug(__FILE__, __LINE__);
         pnt_debugPrint() << (existing && !replace ? "AddSet: Adding set "
                                                   : "AddSet: Adding new set ")

@@ -20,9 +20,9 @@ class cow_ConstMapSortedIt;
 // shares the root. A write copies only the nodes on the path from the root to
 // the node it touches (and the few that a rebalancing rotation moves), if they
 // are shared; every other subtree stays shared between the copies. Keys are
-// compared with operator<. The tree keeps itself balanced: keyword names and
-// labels usually arrive in ascending order, which would turn a plain search
-// tree into a list.
+// compared with operator< (string keys by their text, once per level of the
+// tree). The tree keeps itself balanced: keyword names and labels usually
+// arrive in ascending order, which would turn a plain search tree into a list.
 template <class K, class V>
 class cow_Map {
   public:
@@ -61,9 +61,10 @@ class cow_Map {
         Node** slot = &m_root;
         for (;;) {
             Node* node = makeUnique(*slot);
-            if (key < node->key) {
+            int const order = compareKeys(key, node->key);
+            if (order < 0) {
                 slot = &node->left;
-            } else if (node->key < key) {
+            } else if (order > 0) {
                 slot = &node->right;
             } else {
                 return node->value;
@@ -79,9 +80,10 @@ class cow_Map {
     V const* Find(K const& key) const {
         Node const* node = m_root;
         while (node) {
-            if (key < node->key) {
+            int const order = compareKeys(key, node->key);
+            if (order < 0) {
                 node = node->left;
-            } else if (node->key < key) {
+            } else if (order > 0) {
                 node = node->right;
             } else {
                 return &node->value;
@@ -174,6 +176,16 @@ class cow_Map {
     static void retain(Node* node) noexcept {
         if (node) ++node->refs;
     }
+    // Negative, zero or positive as `a` orders before, with or after `b`. A
+    // search asks once per level of the tree: for string keys that is one
+    // comparison of the texts where "a < b, then b < a" would make two.
+    static int compareKeys(K const& a, K const& b) {
+        if constexpr (std::is_same_v<K, cow_String>) {
+            return a.View().compare(b.View());
+        } else {
+            return a < b ? -1 : (b < a ? 1 : 0);
+        }
+    }
     // Iterative along the right spine so that the stack depth stays with the
     // tree's height whatever shape a bug might give it.
     static void release(Node* node) noexcept {
@@ -246,22 +258,27 @@ class cow_Map {
             return;
         }
         Node* node = makeUnique(slot);
-        if (key < node->key) {
-            insert(node->left, key, value, added);
-        } else if (node->key < key) {
-            insert(node->right, key, value, added);
-        } else {
+        int const order = compareKeys(key, node->key);
+        if (order == 0) {
             node->value = value;
             return;
         }
+        Node*& child = order < 0 ? node->left : node->right;
+        int const before = height(child);
+        insert(child, key, value, added);
+        // A subtree that kept its height leaves every node above it as it
+        // was: the walk back up stops here instead of reading the heights of
+        // both children at each level up to the root.
+        if (height(child) == before) return;
         rebalance(slot);
     }
     // The key is in the subtree.
     static void remove(Node*& slot, K const& key) {
         Node* node = makeUnique(slot);
-        if (key < node->key) {
+        int const order = compareKeys(key, node->key);
+        if (order < 0) {
             remove(node->left, key);
-        } else if (node->key < key) {
+        } else if (order > 0) {
             remove(node->right, key);
         } else if (!node->left || !node->right) {
             slot = node->left ? node->left : node->right;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <random>
 #include <string>
@@ -161,6 +162,27 @@ TEST(CowMapBalance, AscendingInsertsKeepTheTreeShallow) {
     for (int i = 0; i < 100000; i += 2) map.Remove(i);
     EXPECT_EQ(map.Size(), 50000);
     EXPECT_LE(heightFromPreOrder(preOrder(map)), 23);
+}
+
+// Inserts stop walking back up once a subtree keeps its height; the tree
+// must still rebalance wherever one grew, whatever the order of the keys,
+// and re-inserting a key (a replaced value) must leave the shape alone.
+TEST(CowMapBalance, InsertsInAnyOrderKeepTheAvlBound) {
+    std::vector<int> keys(100000);
+    for (int i = 0; i < 100000; ++i) keys[static_cast<size_t>(i)] = i;
+    std::shuffle(keys.begin(), keys.end(), std::mt19937(5));
+    IntMap shuffled;
+    for (int key : keys) shuffled.Insert(key, key);
+    IntMap descending;
+    for (int key = 100000; key > 0; --key) descending.Insert(key, key);
+    for (IntMap const* map : {&shuffled, &descending}) {
+        ASSERT_EQ(map->Size(), 100000);
+        EXPECT_LE(heightFromPreOrder(preOrder(*map)), 24);
+    }
+    std::vector<int> const shape = preOrder(shuffled);
+    for (int key = 0; key < 100000; key += 3) EXPECT_FALSE(shuffled.Insert(key, -key));
+    EXPECT_EQ(preOrder(shuffled), shape);
+    EXPECT_EQ(shuffled.ConstGet(3), -3);
 }
 
 TEST(CowMapIteration, PreOrderFollowsTheShapeAndSortedFollowsTheKeys) {

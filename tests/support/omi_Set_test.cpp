@@ -55,6 +55,31 @@ TEST(OmiSetMembers, CopyIsIndependent) {
     EXPECT_EQ(MembersOf(copy), (std::vector<int>{2}));
 }
 
+// Assignment copies the bit vector of a set that has one and drops that of
+// the set assigned to; a move takes the bit vector along.
+TEST(OmiSetMembers, AssignedAndMovedSetsKeepTheirOwnMembers) {
+    omi_Set many;
+    for (int value = 0; value < 3 * omi_Set::kFew; ++value) many.Insert(value * 1000);
+    omi_Set few;
+    few.Insert(-1);
+
+    omi_Set target(few);
+    target = many;
+    target.Insert(7);
+    EXPECT_FALSE(many.IsMember(7));
+    EXPECT_EQ(target.Size(), many.Size() + 1);
+
+    target = few;
+    EXPECT_EQ(MembersOf(target), (std::vector<int>{-1}));
+    omi_Set const& same = target;
+    target = same;
+    EXPECT_EQ(MembersOf(target), (std::vector<int>{-1}));
+
+    omi_Set moved(std::move(many));
+    EXPECT_EQ(moved.Size(), 3 * omi_Set::kFew);
+    EXPECT_TRUE(moved.IsMember(23000));
+}
+
 TEST(OmiBlkBitVectBits, FarBitsAreSetTestedAndWalked) {
     omi_BlkBitVect bits;
     EXPECT_TRUE(bits.Set(999999999));
