@@ -1,6 +1,7 @@
 #include "assembly/inp_FakePartSetAssignVisitors.h"
 
 #include <algorithm>
+#include <charconv>
 #include <string>
 #include <vector>
 
@@ -397,22 +398,28 @@ void inp_FakePartSetAssignVisitor::GenerateUnsortedSetKeyword(inp_ReferenceKind 
                                                               inp_Keyword& keyword) const {
     std::string line;
     int items = 0;
-    auto add = [&](std::string const& item) {
-        if (items == kItemsPerLine || (items > 0 && line.size() + item.size() > kLineLimit)) {
+    // An item is "INSTANCE.ID," at the assembly, "ID," in a part; it is
+    // written straight into the line, with no string of its own.
+    auto add = [&](cow_String const* instance, int id) {
+        char digits[16];
+        auto const written = std::to_chars(digits, digits + sizeof digits, id);
+        size_t const prefix = instance ? static_cast<size_t>(instance->Length()) + 1 : 0;
+        size_t const length = prefix + static_cast<size_t>(written.ptr - digits) + 1;
+        if (items == kItemsPerLine || (items > 0 && line.size() + length > kLineLimit)) {
             keyword.Data().Append(line.c_str());
             line.clear();
             items = 0;
         }
-        line += item;
+        if (instance) line.append(instance->View()).push_back('.');
+        line.append(digits, written.ptr).push_back(',');
         ++items;
     };
     for (int const id : ids) {
         if (!assemblyLevel) {
-            add(std::to_string(id) + ",");
+            add(nullptr, id);
             continue;
         }
-        for (cow_String const& instance : GetInstanceNames(kind, id))
-            add(std::string(instance.View()) + "." + std::to_string(id) + ",");
+        for (cow_String const& instance : GetInstanceNames(kind, id)) add(&instance, id);
     }
     if (items > 0) keyword.Data().Append(line.c_str());
 }

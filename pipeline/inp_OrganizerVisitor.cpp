@@ -124,7 +124,10 @@ cow_List<inp_Keyword> inp_OrganizerVisitor::Keywords() {
     while (m_openKeywords.Length() > 1) closeTop();
     cow_List<inp_Keyword>& topLevel = m_openKeywords.Get(0).GetSuboptions();
     int const count = topLevel.Length();
-    for (int i = 0; i < count; ++i) SetParentKeyOfSuboptions(topLevel.Get(i));
+    // Most keywords of a flat deck have no suboptions: those are passed by
+    // without the writable access that each Get would check sharing for.
+    for (int i = 0; i < count; ++i)
+        if (!topLevel.ConstGet(i).Suboptions().IsEmpty()) SetParentKeyOfSuboptions(topLevel.Get(i));
     return topLevel;
 }
 

@@ -436,6 +436,32 @@ MIXED, 1
     EXPECT_FALSE(input.PartNsets().HasNestedSet("PART-1", "MIXED"));
 }
 
+// The flat deck's sets become set keywords of its one part, in name order,
+// eight members to a line.
+TEST_F(FakePart, EverySetOfAFlatDeckIsWrittenIntoItsPart) {
+    run(std::string(kBrick) + R"(*NSET, NSET=SCATTERED
+1, 2, 4, 5, 7, 8, 10, 3, 6, 7
+*NSET, NSET=CORNER
+5, 1, 6
+*NSET, NSET=EMPTY
+*NSET, NSET=ALL1
+1, 2, 3
+)",
+        Reader::Solver);
+    std::vector<std::string> const lines = tree();
+    std::string const text = joined(lines);
+    int const part = indexOf("*part, name=PART-1");
+    int const all = indexOf("*nset, generate, nset=ALL1");
+    int const corner = indexOf("*nset, nset=CORNER");
+    int const scattered = indexOf("*nset, nset=SCATTERED");
+    ASSERT_TRUE(part >= 0 && part < all && all < corner && corner < scattered) << text;
+    EXPECT_EQ(lines[all + 1], "1, 3, 1");
+    EXPECT_EQ(lines[corner + 1], "1, 5, 6, ");
+    EXPECT_EQ(lines[scattered + 1], "1, 2, 3, 4, 5, 6, 7, 8, ");
+    EXPECT_EQ(lines[scattered + 2], "10, ");
+    EXPECT_LT(indexOf("*nset, nset=EMPTY"), 0) << text;
+}
+
 // -- decks written by another mesher ------------------------------------------------------
 
 namespace {
