@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "deck/inp_Item.h"
@@ -346,10 +347,10 @@ cow_List<inp_Keyword> inp_FakePartSetAssignVisitor::CreateAssemblySets(
 
 void inp_FakePartSetAssignVisitor::InsertAssemblySets(cow_List<inp_Keyword>& list,
                                                       inp_ReferenceKind kind) const {
-    cow_List<inp_Keyword> const keywords = CreateAssemblySets(kind);
+    cow_List<inp_Keyword> keywords = CreateAssemblySets(kind);
     for (int i = 0; i < list.Length(); ++i) {
         if (!list.ConstGet(i).Is(inp_kw_EndAssembly)) continue;
-        list.InsertList(i, keywords);
+        list.InsertList(i, std::move(keywords));
         return;
     }
 }
@@ -494,7 +495,7 @@ void inp_SimpleFakeAssignVisitor::Keywords(cow_List<inp_Keyword>& list) {
             if (set->IsEmpty()) continue;
             keywords.Append(CreateSetKeyword(kind, false, it.CurrentKey(), *set));
         }
-        list.InsertList(position, keywords);
+        list.InsertList(position, std::move(keywords));
     }
     if (m_parameters.isSymModelGen()) RearrangeNsetKeywords(list);
 }

@@ -149,19 +149,15 @@ class cow_List {
     // Inserts the elements of `other` before index i (i == Length() appends),
     // in their order, in one pass: every element moves at most once, where
     // inserting them one by one would move the elements after i once per
-    // element inserted.
+    // element inserted. Elements that no other list holds move into place,
+    // this list's own as well as those of an inserted list given as an
+    // rvalue; shared ones are copied, so that every other holder keeps them
+    // whole. Should a copy throw part-way, this list may have lost elements.
     void InsertList(int i, cow_List const& other) {
-        if (i < 0 || i > m_length) RaiseOutOfRange(i, m_length);
-        if (other.IsEmpty()) return;
-        // A counted copy: other may be this list.
-        cow_List const source(other);  // NOLINT(performance-unnecessary-copy-initialization)
-        cow_List merged;
-        merged.Reserve(m_length + source.m_length);
-        for (int k = 0; k < i; ++k) merged.pushBack(at(k));
-        for (T const& value : source) merged.pushBack(value);
-        for (int k = i; k < m_length; ++k) merged.pushBack(at(k));
-        swap(merged);
+        // A counted copy: `other` keeps its elements (and may be this list).
+        insertList(i, cow_List(other));
     }
+    void InsertList(int i, cow_List&& other) { insertList(i, std::move(other)); }
     // Removes index i. Moves the shorter side.
     void RemoveIndex(int i) {
         checkIndex(i);
@@ -451,6 +447,20 @@ class cow_List {
         --block->refs;
         block = copy;
         return copy;
+    }
+    // Every element moves through its writable access, which first gives
+    // this list (or the source) its own copy of a block that another list
+    // shares: a shared element is copied once, one held alone just moves.
+    // A copy or allocation that fails part-way may leave elements moved out.
+    void insertList(int i, cow_List source) {
+        if (i < 0 || i > m_length) RaiseOutOfRange(i, m_length);
+        if (source.IsEmpty()) return;
+        cow_List merged;
+        merged.Reserve(m_length + source.m_length);
+        for (int k = 0; k < i; ++k) merged.pushBack(std::move(writableAt(k)));
+        for (int k = 0; k < source.m_length; ++k) merged.pushBack(std::move(source.writableAt(k)));
+        for (int k = i; k < m_length; ++k) merged.pushBack(std::move(writableAt(k)));
+        swap(merged);
     }
     T& writableAt(int i) {
         ownTable();

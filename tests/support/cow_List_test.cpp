@@ -6,6 +6,7 @@
 #include <deque>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/ZELBasException.h"
@@ -171,6 +172,89 @@ TEST(CowListIndexing, InsertingAListEqualsInsertingItsElementsInTurn) {
     self.InsertList(2, cow_List<int>());
     EXPECT_EQ(self.Length(), 6);
     expectOutOfRange([&] { self.InsertList(7, inserted); });
+}
+
+// Counts the copies made of it; a move is no copy, and leaves kMovedOut
+// behind, so that an element moved out of a list that still holds it shows.
+struct CopyCounted {
+    static constexpr int kMovedOut = -999;
+    static inline int copies = 0;
+    int value = 0;
+    CopyCounted(int v = 0) : value(v) {}  // NOLINT(google-explicit-constructor)
+    CopyCounted(CopyCounted const& other) : value(other.value) { ++copies; }
+    CopyCounted(CopyCounted&& other) noexcept : value(std::exchange(other.value, kMovedOut)) {}
+    CopyCounted& operator=(CopyCounted const& other) {
+        value = other.value;
+        ++copies;
+        return *this;
+    }
+    CopyCounted& operator=(CopyCounted&& other) noexcept {
+        value = std::exchange(other.value, kMovedOut);
+        return *this;
+    }
+    ~CopyCounted() = default;
+};
+
+std::vector<int> valuesOf(cow_List<CopyCounted> const& list) {
+    std::vector<int> values;
+    for (CopyCounted const& item : list) values.push_back(item.value);
+    return values;
+}
+
+cow_List<CopyCounted> trackedList(int first, int n) {
+    cow_List<CopyCounted> list;
+    for (int i = 0; i < n; ++i) list.Append(CopyCounted(first + i));
+    return list;
+}
+
+// Inserting moves what no other list holds and copies what one does: a list
+// that shared the target's or the source's storage keeps its elements.
+TEST(CowListIndexing, InsertingAListMovesWhatNothingElseHolds) {
+    std::vector<int> expected;
+    for (int v : {0, 1, 100, 101, 102, 2, 3, 4}) expected.push_back(v);
+
+    cow_List<CopyCounted> alone = trackedList(0, 5);
+    CopyCounted::copies = 0;
+    alone.InsertList(2, trackedList(100, 3));
+    EXPECT_EQ(CopyCounted::copies, 0);
+    EXPECT_EQ(valuesOf(alone), expected);
+
+    cow_List<CopyCounted> target = trackedList(0, 5);
+    cow_List<CopyCounted> const targetSharer = target;
+    cow_List<CopyCounted> const source = trackedList(100, 3);
+    CopyCounted::copies = 0;
+    target.InsertList(2, source);
+    EXPECT_EQ(CopyCounted::copies, 8);
+    EXPECT_EQ(valuesOf(target), expected);
+    EXPECT_EQ(valuesOf(targetSharer), (std::vector<int>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(valuesOf(source), (std::vector<int>{100, 101, 102}));
+
+    // Own elements move even when the inserted ones are shared and copied.
+    cow_List<CopyCounted> mine = trackedList(0, 5);
+    CopyCounted::copies = 0;
+    mine.InsertList(2, source);
+    EXPECT_EQ(CopyCounted::copies, 3);
+    EXPECT_EQ(valuesOf(mine), expected);
+    EXPECT_EQ(valuesOf(source), (std::vector<int>{100, 101, 102}));
+
+    // A table of its own whose later blocks another list still shares.
+    cow_List<CopyCounted> partly = trackedList(0, 40);
+    cow_List<CopyCounted> const partlySharer = partly;
+    partly.Get(0) = CopyCounted(-1);
+    ASSERT_FALSE(partly.SharesStorageWith(partlySharer));
+    ASSERT_TRUE(partly.SharesBlockWith(partlySharer, 39));
+    CopyCounted::copies = 0;
+    partly.InsertList(40, trackedList(40, 2));
+    EXPECT_EQ(CopyCounted::copies, 24);  // the two shared blocks, 16 and 8 elements
+    EXPECT_EQ(partly.Length(), 42);
+    EXPECT_EQ(partly[39].value, 39);
+    EXPECT_EQ(partlySharer[39].value, 39);
+    EXPECT_EQ(partlySharer[0].value, 0);
+
+    // A list inserted into itself shares its storage with the source: copies.
+    cow_List<CopyCounted> self = trackedList(0, 2);
+    self.InsertList(1, self);
+    EXPECT_EQ(valuesOf(self), (std::vector<int>{0, 0, 1, 1}));
 }
 
 TEST(CowListIndexing, OutOfRangeRaises) {
