@@ -42,13 +42,18 @@ cow_String inp_FakePartSetVisitor::FixupIdOrSet(inp_Keyword const& keyword, cow_
 // also sought without its quotes, and keeps them in the result.
 cow_String inp_FakePartSetVisitor::scopedSet(cow_String const& datum,
                                              inpM_SetMap const& sets) const {
-    cow_List<cow_String> const parts = sets.Instances();
-    for (cow_String const& part : parts)
-        if (sets.HasNestedSet(part, datum)) return PrependPartNameToData(part, datum);
+    // Once per data item: the parts are walked in place, with no list of
+    // their names made each time.
+    auto firstPartHolding = [&sets](cow_String const& name) {
+        return sets.ConstGetInstanceMap().FindFirstSorted(
+            [&name](cow_String const&, inpM_SetMap const& part) { return part.HasSet(name); });
+    };
+    if (cow_String const* part = firstPartHolding(datum))
+        return PrependPartNameToData(*part, datum);
     cow_String const unquoted = inpM_Utils::RemoveQuotes(datum);
     if (unquoted != datum)
-        for (cow_String const& part : parts)
-            if (sets.HasNestedSet(part, unquoted)) return PrependPartNameToData(part, datum);
+        if (cow_String const* part = firstPartHolding(unquoted))
+            return PrependPartNameToData(*part, datum);
     return datum;  // an assembly set
 }
 
@@ -57,8 +62,9 @@ cow_String inp_FakePartSetVisitor::scopedLabel(inp_Keyword const& keyword, cow_S
                                                inpM_IdMap const& ids) {
     int label = 0;
     std::from_chars(datum.View().data(), datum.View().data() + datum.Length(), label);
-    for (cow_String const& part : ids.Instances())
-        if (ids.ConstGet(part).IsMember(label)) return PrependPartNameToData(part, datum);
+    cow_String const* part = ids.ConstGetInstanceMap().FindFirstSorted(
+        [label](cow_String const&, inpM_IdMap const& partIds) { return partIds.IsMember(label); });
+    if (part) return PrependPartNameToData(*part, datum);
     if (!m_options.symmetricModelGeneration)
         AddError(inp_Utils::MessageInKeyword(
             keyword,

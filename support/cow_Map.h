@@ -129,6 +129,15 @@ class cow_Map {
         forEachNodeSorted(m_root, [&f](Node const* node) { f(node->key, node->value); });
     }
 
+    // The key of the first entry, in ascending key order, for which
+    // test(key, value) is true; nullptr if none is. Stops at that entry and
+    // allocates nothing: for lookups made once per data item over the few
+    // instances of a model.
+    template <class Test>
+    K const* FindFirstSorted(Test&& test) const {
+        return findFirstSorted(m_root, test);
+    }
+
     // Sharing, for tests.
     bool SharesRootWith(cow_Map const& other) const noexcept {
         return m_root && m_root == other.m_root;
@@ -305,6 +314,17 @@ class cow_Map {
         Node* min = detachMin(node->left);
         rebalance(slot);
         return min;
+    }
+
+    // Recursive on the left, iterative on the right: the depth stays within
+    // the tree's height.
+    template <class Test>
+    static K const* findFirstSorted(Node const* node, Test& test) {
+        for (; node; node = node->right) {
+            if (K const* found = findFirstSorted(node->left, test)) return found;
+            if (test(node->key, node->value)) return &node->key;
+        }
+        return nullptr;
     }
 
     // Calls visit(node) for every node below `root`, keys ascending: the

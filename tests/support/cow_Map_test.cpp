@@ -201,6 +201,33 @@ TEST(CowMapIteration, PreOrderFollowsTheShapeAndSortedFollowsTheKeys) {
     EXPECT_TRUE(preOrder(IntMap()).empty());
 }
 
+// The first match in key order wins, whatever the tree's shape, and the
+// search stops there.
+TEST(CowMapIteration, FindFirstSortedStopsAtTheSmallestKeyThatPasses) {
+    IntMap map;
+    for (int key : {50, 20, 80, 10, 30, 70, 90, 25, 35, 5}) map.Insert(key, key % 10 == 5 ? 1 : 0);
+    std::vector<int> asked;
+    int const* found = map.FindFirstSorted([&asked](int key, int value) {
+        asked.push_back(key);
+        return value == 1;
+    });
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(*found, 5);
+    EXPECT_EQ(asked, (std::vector<int>{5}));
+
+    asked.clear();
+    found = map.FindFirstSorted([&asked](int key, int) {
+        asked.push_back(key);
+        return key > 30;
+    });
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(*found, 35);
+    EXPECT_EQ(asked, (std::vector<int>{5, 10, 20, 25, 30, 35}));
+
+    EXPECT_EQ(map.FindFirstSorted([](int, int) { return false; }), nullptr);
+    EXPECT_EQ(IntMap().FindFirstSorted([](int, int) { return true; }), nullptr);
+}
+
 TEST(CowMapIteration, IteratorsKeepTheirSnapshotThroughLaterWrites) {
     IntMap map = ascending(100);
     cow_ConstMapIterator<int, int> walk(map);
