@@ -451,7 +451,6 @@ class cow_List {
     // Every element moves through its writable access, which first gives
     // this list (or the source) its own copy of a block that another list
     // shares: a shared element is copied once, one held alone just moves.
-    // A copy or allocation that fails part-way may leave elements moved out.
     void insertList(int i, cow_List source) {
         if (i < 0 || i > m_length) RaiseOutOfRange(i, m_length);
         if (source.IsEmpty()) return;
